@@ -1,0 +1,35 @@
+#pragma once
+
+#include <CorvaneBase/CorvaneBaseGlobal.h>
+
+#include <QObject>
+#include <QString>
+
+/**
+ * Keeps which machine the product is connected to. A singleton of the GUI thread.
+ *
+ * @code
+ * QObject::connect(CorvaneRegisterHelper::instance(), &CorvaneRegisterHelper::signalCurrentMachineChanged,
+ *                  statusBar, [=](bool connected, const QString& ip) { statusBar->showMessage(connected ? ip : QString()); });
+ * @endcode
+ */
+class CORVANEBASE_EXPORT CorvaneRegisterHelper : public QObject
+{
+    Q_OBJECT
+
+public:
+    static CorvaneRegisterHelper* instance();
+
+    /** Records the current machine, and emits signalCurrentMachineChanged when anything of it changed. */
+    void SetCurrentMachineConnectStatus(bool connected, const QString& ip, const QString& serial);
+
+Q_SIGNALS:
+    void signalCurrentMachineChanged(bool connected, const QString& ip, const QString& serial);
+
+private:
+    CorvaneRegisterHelper();
+
+    bool m_bConnected = false;
+    QString m_strIp;
+    QString m_strSerial;
+};

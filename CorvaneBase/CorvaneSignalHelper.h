@@ -1,0 +1,53 @@
+#pragma once
+
+#include <CorvaneBase/CorvaneBaseGlobal.h>
+
+#include <QColor>
+#include <QObject>
+#include <QString>
+
+class QWidget;
+
+/**
+ * The switchboard between controls and host: requests that a control makes of the host and news that the host gives to
+ * every control. A singleton of the GUI thread; the host connects to its signals and emits signalAboutToExit.
+ *
+ * @code
+ * QObject::connect(CorvaneSignalHelper::instance(), &CorvaneSignalHelper::signalActiveMainWindow,
+ *                  mainWindow, &QWidget::activateWindow);
+ * @endcode
+ */
+class CORVANEBASE_EXPORT CorvaneSignalHelper : public QObject
+{
+    Q_OBJECT
+
+public:
+    static CorvaneSignalHelper* instance();
+
+    /** True while the host runs in its checking mode: the message boxes then write one log line each. */
+    bool InCheckingEnvironment() const;
+
+    /** Switches the checking mode, off at start. */
+    void SetInCheckingEnvironment(bool checking);
+
+    /**
+     * Moves a window that is being shown to its place: centred over its parent window, else over the active window, else
+     * on the screen under the cursor, and always inside that screen's available geometry. Null is ignored.
+     */
+    void AdjustWindowPosition(QWidget* widget);
+
+Q_SIGNALS:
+    /** A control asks the host to bring its main window forward. */
+    void signalActiveMainWindow();
+    /** The host is about to quit: progress dialogs end themselves. */
+    void signalAboutToExit();
+    /** A control asks the host to append a coloured line to its log pane. */
+    void signalFilePluginAppendLog(QString text, QColor color);
+    /** A control has connected the machine at @p ip with serial number @p serial by itself. */
+    void signalConnectSuccessToFile(const QString& ip, const QString& serial);
+
+private:
+    CorvaneSignalHelper();
+
+    bool m_bInChecking = false;
+};

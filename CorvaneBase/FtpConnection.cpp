@@ -1,0 +1,60 @@
+#include <CorvaneBase/FtpConnection.h>
+
+#include <QElapsedTimer>
+#include <QMutex>
+#include <QNetworkProxy>
+#include <QTcpSocket>
+
+namespace {
+
+constexpr quint16 kFilePort = 21;
+constexpr int kGreetingMs = 3000;
+constexpr int kFarewellMs = 500;
+
+QMutex g_providerMutex;
+std::function<bool(const QString&)> g_provider;
+
+bool ProbeFileService(const QString& ip)
+{
+    QTcpSocket socket;
+    // A proxy configured on the computer never leads to a machine on the local network.
+    socket.setProxy(QNetworkProxy::NoProxy);
+    QElapsedTimer clock;
+    clock.start();
+    const auto left = [&clock] { return int(qMax<qint64>(0, kGreetingMs - clock.elapsed())); };
+
+    socket.connectToHost(ip, kFilePort);
+    if (!socket.waitForConnected(left())) {
+        return false;
+    }
+    QByteArray greeting = socket.readAll();
+    while (greeting.size() < 3 && left() > 0 && socket.waitForReadyRead(left())) {
+        greeting += socket.readAll();
+    }
+    const bool greeted = greeting.startsWith("220");
+    socket.write("QUIT\r\n");
+    socket.waitForBytesWritten(kFarewellMs);
+    socket.disconnectFromHost();
+    if (socket.state() != QAbstractSocket::UnconnectedState) {
+        socket.waitForDisconnected(kFarewellMs);
+    }
+    return greeted;
+}
+
+} // namespace
+
+bool FtpConnection(const QString& ip)
+{
+    std::function<bool(const QString&)> provider;
+    {
+        const QMutexLocker lock(&g_providerMutex);
+        provider = g_provider;
+    }
+    return provider ? provider(ip) : ProbeFileService(ip);
+}
+
+void SetFtpConnectionProvider(std::function<bool(const QString& ip)> provider)
+{
+    const QMutexLocker lock(&g_providerMutex);
+    g_provider = std::move(provider);
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <CorvaneBase/CorvaneBaseGlobal.h>
+
+#include <QString>
+
+#include <functional>
+
+/**
+ * Tries a machine's file service: opens port 21 at @p ip, waits at most three seconds for the greeting "220", says "QUIT".
+ * Never blocks longer than five seconds in all, and may be called from any thread.
+ *
+ * @return true when the service greeted
+ */
+CORVANEBASE_EXPORT bool FtpConnection(const QString& ip);
+
+/** Puts @p provider in the place of the built-in probe; {} restores the built-in one. */
+CORVANEBASE_EXPORT void SetFtpConnectionProvider(std::function<bool(const QString& ip)> provider);

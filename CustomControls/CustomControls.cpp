@@ -1,0 +1,7 @@
+#include <CustomControls/CustomControls.h>
+
+CustomControls::CustomControls() = default;
+
+CustomControls& CustomControls::operator=(const CustomControls&) = default;
+
+CustomControls& CustomControls::operator=(CustomControls&&) noexcept = default;

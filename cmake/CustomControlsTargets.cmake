@@ -1,0 +1,17 @@
+# What every target of this tree shares: warnings, sanitizers, the include root.
+
+function(customcontrols_configure target)
+    target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}")
+    target_compile_definitions(${target} PRIVATE QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_KEYWORDS
+                                                 QT_DEPRECATED_WARNINGS QT_MESSAGELOGCONTEXT)
+    if(MSVC)
+        target_compile_options(${target} PRIVATE /W4 /utf-8 /permissive- $<$<BOOL:${CUSTOMCONTROLS_WERROR}>:/WX>)
+    else()
+        target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic $<$<BOOL:${CUSTOMCONTROLS_WERROR}>:-Werror>)
+    endif()
+    if(CUSTOMCONTROLS_SANITIZE)
+        target_compile_options(${target} PRIVATE -fsanitize=${CUSTOMCONTROLS_SANITIZE} -fno-omit-frame-pointer
+                                                 -fno-sanitize-recover=all)
+        target_link_options(${target} PRIVATE -fsanitize=${CUSTOMCONTROLS_SANITIZE})
+    endif()
+endfunction()

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QTemporaryDir>
+
+/**
+ * What a test may rely on wherever it runs: fixed locale, time zone, scale, style and fonts; log and settings in a folder
+ * of its own; and no way for the code under test to reach an adapter or a machine.
+ */
+class TestEnvironment
+{
+public:
+    /** To be called before the application object is made: sets what is read from the process's environment. */
+    static void PrepareProcess();
+
+    /** To be made after the application object. Chinese is the language until a test sets another. */
+    TestEnvironment();
+    ~TestEnvironment();
+
+private:
+    QTemporaryDir m_folder;
+};
