@@ -8,8 +8,8 @@
 /**
  * Makes icons with two looks, one for a checked and one for an unchecked button, sharp at every device pixel ratio.
  *
- * GUI thread only: it asks the application for its ratio and the file system for the files. All operations are static; the
- * class holds nothing.
+ * GUI thread only: it asks the application for its ratio and the file system for the files. All operations are static;
+ * the class holds nothing.
  *
  * @code
  * button->setCheckable(true);
@@ -23,8 +23,8 @@ public:
     StatefulIcon& operator=(StatefulIcon&& other) noexcept;
 
     /**
-     * An icon of four entries: @p offPath for QIcon::Off, @p onPath for QIcon::On, each in normal and disabled mode, so a
-     * disabled button keeps its colours. Beside each path an "@3x" or "@2x" file is looked for when the application's
+     * An icon of four entries: @p offPath for QIcon::Off, @p onPath for QIcon::On, each in normal and disabled mode, so
+     * a disabled button keeps its colours. Beside each path an "@3x" or "@2x" file is looked for when the application's
      * device pixel ratio asks for it. A file that does not exist gives an entry without picture and no message.
      *
      * @param size edge of the square icon, in logical pixels

@@ -3,8 +3,8 @@
 #include <QTemporaryDir>
 
 /**
- * What a test may rely on wherever it runs: fixed locale, time zone, scale, style and fonts; log and settings in a folder
- * of its own; and no way for the code under test to reach an adapter or a machine.
+ * What a test may rely on wherever it runs: fixed locale, time zone, scale, style and fonts; log and settings in a
+ * folder of its own; and no way for the code under test to reach an adapter or a machine.
  */
 class TestEnvironment
 {
