@@ -2,7 +2,8 @@
 
 #include <QtCore/qglobal.h>
 
-/** Marks what the library exports: in a shared build exported here and imported by its users, in a static one neither. */
+/** Marks what the library exports: in a shared build exported here and imported by its users, in a static one neither.
+ */
 #if defined(CORVANEBASE_STATIC)
 #define CORVANEBASE_EXPORT
 #elif defined(CORVANEBASE_LIBRARY)

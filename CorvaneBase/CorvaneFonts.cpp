@@ -3,6 +3,7 @@
 #include <QStringList>
 
 #include <cmath>
+#include <limits>
 
 namespace {
 
@@ -10,19 +11,39 @@ namespace {
 // the free ones, so that Chinese and Latin text share one design wherever the product runs.
 QFont ProductFont(int pixelSize, int weight)
 {
-    const QStringList families = {
-        QStringLiteral("Microsoft YaHei UI"), QStringLiteral("Microsoft YaHei"), // Windows
-        QStringLiteral("PingFang SC"), QStringLiteral("Hiragino Sans GB"),       // macOS
-        QStringLiteral("Noto Sans CJK SC"), QStringLiteral("Noto Sans SC"),      // Linux
-        QStringLiteral("Source Han Sans SC"), QStringLiteral("Source Han Sans CN"),
-        QStringLiteral("WenQuanYi Micro Hei"), QStringLiteral("WenQuanYi Zen Hei"),
-        QStringLiteral("SimSun"), QStringLiteral("sans-serif")};
+    const QStringList families = {QStringLiteral("Microsoft YaHei UI"),
+                                  QStringLiteral("Microsoft YaHei"), // Windows
+                                  QStringLiteral("PingFang SC"),
+                                  QStringLiteral("Hiragino Sans GB"), // macOS
+                                  QStringLiteral("Noto Sans CJK SC"),
+                                  QStringLiteral("Noto Sans SC"), // Linux
+                                  QStringLiteral("Source Han Sans SC"),
+                                  QStringLiteral("Source Han Sans CN"),
+                                  QStringLiteral("WenQuanYi Micro Hei"),
+                                  QStringLiteral("WenQuanYi Zen Hei"),
+                                  QStringLiteral("SimSun"),
+                                  QStringLiteral("sans-serif")};
     QFont font;
     font.setFamilies(families);
     font.setStyleHint(QFont::SansSerif);
     font.setPixelSize(qMax(1, pixelSize));
     font.setWeight(QFont::Weight(qBound(1, weight, 1000)));
     return font;
+}
+
+// The smallest whole number that makes the ratio whole, 0 where that is beyond any sensible size. The ratio comes with
+// six significant digits, so 1.33333 stands for four thirds: whatever lies within half a unit of the last digit counts.
+int Denominator(double ratio)
+{
+    constexpr int kLargest = 1000;
+    const double halfUnit = 0.5000001 * std::pow(10.0, std::floor(std::log10(ratio)) - 5.0);
+    for (int denominator = 1; denominator <= kLargest; ++denominator) {
+        const double nearest = std::round(ratio * denominator) / denominator;
+        if (std::abs(ratio - nearest) <= halfUnit) {
+            return denominator;
+        }
+    }
+    return 0;
 }
 
 } // namespace
@@ -45,7 +66,10 @@ QFont FontCnBold_16 = ProductFont(16, QFont::Bold);
 QFont FontCnBold_28 = ProductFont(28, QFont::Bold);
 QFont FontCnBold_30 = ProductFont(30, QFont::Bold);
 
-QFont GetFontWidthPxSizeAndWeight(int pixelSize, int weight) { return ProductFont(pixelSize, weight); }
+QFont GetFontWidthPxSizeAndWeight(int pixelSize, int weight)
+{
+    return ProductFont(pixelSize, weight);
+}
 
 int ClosestInteger(int value, const QString& ratio)
 {
@@ -54,19 +78,17 @@ int ClosestInteger(int value, const QString& ratio)
     if (!ok || !std::isfinite(factor) || factor <= 0.0) {
         return value;
     }
-    const auto isWhole = [factor](int size) {
-        const double scaled = size * factor;
-        return std::abs(scaled - std::round(scaled)) < 1e-6;
-    };
-    // Six significant digits give a whole multiple within a million at the latest; a size that far off is of no use.
-    constexpr int kReach = 1000;
-    for (int distance = 0; distance <= kReach; ++distance) {
-        if (isWhole(value + distance)) {
-            return value + distance;
-        }
-        if (isWhole(value - distance) && value - distance > 0) {
-            return value - distance;
-        }
+    const int step = Denominator(factor);
+    if (step == 0) {
+        return value;
     }
-    return value;
+    const qint64 above = qint64(std::floor(double(value) / step)) * step + step;
+    const qint64 below = above - step;
+    // A size that is there must not shrink to nothing, and none may leave the range.
+    const bool belowFits = below >= std::numeric_limits<int>::min() && (below > 0 || value <= 0);
+    const bool aboveFits = above <= std::numeric_limits<int>::max();
+    if (below == value || !aboveFits) {
+        return belowFits ? int(below) : value;
+    }
+    return belowFits && value - below < above - value ? int(below) : int(above);
 }

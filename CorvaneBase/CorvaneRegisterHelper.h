@@ -10,7 +10,8 @@
  *
  * @code
  * QObject::connect(CorvaneRegisterHelper::instance(), &CorvaneRegisterHelper::signalCurrentMachineChanged,
- *                  statusBar, [=](bool connected, const QString& ip) { statusBar->showMessage(connected ? ip : QString()); });
+ *                  statusBar, [=](bool connected, const QString& ip) { statusBar->showMessage(connected ? ip :
+ * QString()); });
  * @endcode
  */
 class CORVANEBASE_EXPORT CorvaneRegisterHelper : public QObject

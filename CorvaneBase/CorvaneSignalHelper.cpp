@@ -14,9 +14,15 @@ CorvaneSignalHelper* CorvaneSignalHelper::instance()
 
 CorvaneSignalHelper::CorvaneSignalHelper() = default;
 
-bool CorvaneSignalHelper::InCheckingEnvironment() const { return m_bInChecking; }
+bool CorvaneSignalHelper::InCheckingEnvironment() const
+{
+    return m_bInChecking;
+}
 
-void CorvaneSignalHelper::SetInCheckingEnvironment(bool checking) { m_bInChecking = checking; }
+void CorvaneSignalHelper::SetInCheckingEnvironment(bool checking)
+{
+    m_bInChecking = checking;
+}
 
 void CorvaneSignalHelper::AdjustWindowPosition(QWidget* widget)
 {

@@ -31,8 +31,8 @@ public:
     void SetInCheckingEnvironment(bool checking);
 
     /**
-     * Moves a window that is being shown to its place: centred over its parent window, else over the active window, else
-     * on the screen under the cursor, and always inside that screen's available geometry. Null is ignored.
+     * Moves a window that is being shown to its place: centred over its parent window, else over the active window,
+     * else on the screen under the cursor, and always inside that screen's available geometry. Null is ignored.
      */
     void AdjustWindowPosition(QWidget* widget);
 

@@ -28,8 +28,9 @@ public:
     void SetAppInChineseEnvironment(bool chinese);
 
     /**
-     * Parses a number as a user types it, in the C locale or the user's own, blanks around it allowed. What is no finite
-     * number gives 0.0.
+     * Parses a number as a user types it, blanks around it allowed: first in the C locale without group separators,
+     * then in the application's locale (QLocale()), then in the system's. So "1.5" is one and a half everywhere, and
+     * "1,5" is where a comma is the decimal sign. What is no finite number gives 0.0.
      */
     double SafeStringToDouble(const QString& text);
 
@@ -38,9 +39,12 @@ public:
 
     /**
      * Writes a setting and the file behind it, whole and at once, so that a crash leaves the old file or the new one. A
-     * file that cannot be written leaves the value in force for this run.
+     * file that cannot be written leaves the value in force for this run. A file that was there but could not be
+     * understood is kept as "<path>.bad".
      *
-     * @param flag reserved; the controls pass false
+     * @param value any QVariant that QDataStream can write; it comes back with its type. An invalid one removes the
+     * setting
+     * @param flag  reserved; the controls pass false
      */
     void SetLocalSettingCache(SettingType type, const QString& key, const QVariant& value, bool flag);
 

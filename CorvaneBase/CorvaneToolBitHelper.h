@@ -18,8 +18,8 @@ struct ToolBit
 };
 
 /**
- * What the product knows of each model's tools. A singleton of the GUI thread. It starts with the tools that are built in;
- * a host replaces them from its own data.
+ * What the product knows of each model's tools. A singleton of the GUI thread. It starts with the tools that are built
+ * in; a host replaces them from its own data.
  *
  * @code
  * QString error;

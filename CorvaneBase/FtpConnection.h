@@ -7,8 +7,8 @@
 #include <functional>
 
 /**
- * Tries a machine's file service: opens port 21 at @p ip, waits at most three seconds for the greeting "220", says "QUIT".
- * Never blocks longer than five seconds in all, and may be called from any thread.
+ * Tries a machine's file service: opens port 21 at @p ip, waits at most three seconds for the greeting "220", says
+ * "QUIT". Never blocks longer than five seconds in all, and may be called from any thread.
  *
  * @return true when the service greeted
  */

@@ -9,8 +9,8 @@
 #include <functional>
 
 /**
- * Brings the computer into the network of a machine that hangs on its USB Type-C cable: such a machine shows up as a wired
- * adapter, stands at 192.168.7.2 and gives no addresses away.
+ * Brings the computer into the network of a machine that hangs on its USB Type-C cable: such a machine shows up as a
+ * wired adapter, stands at 192.168.7.2 and gives no addresses away.
  *
  * Runs on a worker thread and may take several seconds for each round.
  */
@@ -20,21 +20,21 @@ public:
     /** Why autoDiscoverAndConfigureCnc ended as it did. */
     enum Status
     {
-        StatusReady = 0,             ///< the computer has an address in the machine's network
-        StatusNoAdapter = 1,         ///< no wired adapter is up
-        StatusNoRight = 2,           ///< this user may not change an adapter
-        StatusNoTool = 3,            ///< the system's own configuration program is missing
-        StatusNoAnswer = 4,          ///< an adapter was configured, and no machine answered; the change was undone
+        StatusReady = 0,              ///< the computer has an address in the machine's network
+        StatusNoAdapter = 1,          ///< no wired adapter is up
+        StatusNoRight = 2,            ///< this user may not change an adapter
+        StatusNoTool = 3,             ///< the system's own configuration program is missing
+        StatusNoAnswer = 4,           ///< an adapter was configured, and no machine answered; the change was undone
         StatusConfigurationFailed = 5 ///< the system refused the address for another reason
     };
 
     struct Result
     {
-        int iStatus = StatusNoAdapter;                ///< a Status; 0 is success
-        QString strDetail;                            ///< the reason in words for the user, in Chinese
-        QString strAdapter;                           ///< the adapter that was found ready or configured
-        QString strAddress;                           ///< this computer's address in the machine's network
-        QList<std::array<QString, 3>> listAdapters;   ///< name, hardware address, address of each adapter looked at
+        int iStatus = StatusNoAdapter;              ///< a Status; 0 is success
+        QString strDetail;                          ///< the reason in words for the user, in Chinese
+        QString strAdapter;                         ///< the adapter that was found ready or configured
+        QString strAddress;                         ///< this computer's address in the machine's network
+        QList<std::array<QString, 3>> listAdapters; ///< name, hardware address, address of each adapter looked at
     };
 
     /**
@@ -44,6 +44,7 @@ public:
      */
     static Result autoDiscoverAndConfigureCnc(int n);
 
-    /** Puts @p provider in the place of the built-in search, for hosts with one of their own; {} restores the built-in one. */
+    /** Puts @p provider in the place of the built-in search, for hosts with one of their own; {} restores the built-in
+     * one. */
     static void SetProvider(std::function<Result(int)> provider);
 };
