@@ -1,0 +1,93 @@
+#include <CustomControls/machine/CVelmarSelectBox.h>
+
+#include "ui_CVelmarSelectBox.h"
+
+#include <CorvaneBase/CorvaneFonts.h>
+
+#include <QIcon>
+
+namespace {
+constexpr QSize BoxIconSize(16, 16);
+} // namespace
+
+CVelmarSelectBox::CVelmarSelectBox(QWidget* parent)
+    : CFixedSizePopWidget(parent)
+    , ui(new Ui::CVelmarSelectBox)
+{
+    ui->setupUi(this);
+    const QIcon icon(QStringLiteral(":/icon/selectbox/base/icon_scanning_right_inf_maopi.png"));
+    ui->m_labelBoxIcon->setPixmap(icon.pixmap(BoxIconSize, QIcon::Normal, QIcon::Off));
+    ui->m_labelHint->hide();
+    setAttribute(Qt::WA_DeleteOnClose, true);
+    SetFont();
+    connect(ui->m_btnConfirm, &QPushButton::clicked, this, &CVelmarSelectBox::SlotConfirm);
+}
+
+CVelmarSelectBox::~CVelmarSelectBox()
+{
+    delete ui;
+}
+
+void CVelmarSelectBox::SetBoxInfo(const QString& icon, const QString& title, const QString& confirmText)
+{
+    ui->m_labelBoxIcon->setPixmap(QIcon(icon).pixmap(BoxIconSize, QIcon::Normal, QIcon::Off));
+    ui->m_labelBoxName->setText(title);
+    ui->m_btnConfirm->setText(confirmText);
+}
+
+void CVelmarSelectBox::SetChildUI(QWidget* child)
+{
+    if (child == nullptr) {
+        return;
+    }
+    ui->verticalLayout_4->addWidget(child);
+}
+
+void CVelmarSelectBox::SetConfirmBtnHide(bool hide)
+{
+    if (hide) {
+        ui->m_widgetBtn->hide();
+    }
+}
+
+void CVelmarSelectBox::SetCloseBtnHide(bool hide)
+{
+    ui->m_btnClose->setHidden(hide);
+}
+
+void CVelmarSelectBox::SetBaseSize(int width, int height)
+{
+    setFixedSize(width, height);
+}
+
+void CVelmarSelectBox::SetHintText(const QString& text)
+{
+    if (text.isEmpty()) {
+        ui->m_labelHint->hide();
+        return;
+    }
+    ui->m_labelHint->setText(text);
+    ui->m_labelHint->show();
+}
+
+QSize CVelmarSelectBox::GetTitleSize()
+{
+    return ui->m_widgetTitle->size();
+}
+
+void CVelmarSelectBox::on_m_btnClose_clicked()
+{
+    close();
+}
+
+void CVelmarSelectBox::SlotClose()
+{
+    close();
+}
+
+void CVelmarSelectBox::SetFont()
+{
+    ui->m_labelBoxName->setFont(FontCnMedium_14);
+    ui->m_btnConfirm->setFont(FontCnMedium_14);
+    ui->m_labelHint->setFont(FontCn_12);
+}
