@@ -60,7 +60,7 @@ constexpr int kResultClosed = MsgBtnCancel;
 constexpr QSize kCloseButtonSize(24, 24);
 constexpr int kCloseButtonGap = 7;
 /** With this many functions Cancel leaves the row and becomes the close button. */
-constexpr std::size_t kFunctionsForCloseButton = 3;
+constexpr int kFunctionsForCloseButton = 3;
 constexpr QMargins kNoButtonsMargins(4, 30, 4, 30);
 constexpr QSize kFunctionButtonSize(116, 34);
 /** A text of this many characters goes into the text browser. */
@@ -71,6 +71,11 @@ constexpr int kDotInterval = 500;
 constexpr int kDotStates = 7;
 constexpr int kFrameInterval = 1;
 constexpr int kAutoCloseDelay = 2000;
+
+int CountBits(int mask)
+{
+    return int(std::bitset<32>(static_cast<unsigned int>(mask)).count());
+}
 
 int LeftAndRight(const QLayout* layout)
 {
@@ -174,8 +179,7 @@ Q_NEVER_INLINE QEventLoop* CVelmarMessageBox::CreateEventLoop()
 void CVelmarMessageBox::ApplyCloseButtonRule(int buttonMask)
 {
     m_iButtonMask = buttonMask;
-    const std::bitset<32> functions(static_cast<unsigned int>(buttonMask));
-    if (functions.count() < kFunctionsForCloseButton || !(buttonMask & MsgBtnCancel)) {
+    if (CountBits(buttonMask) < kFunctionsForCloseButton || !(buttonMask & MsgBtnCancel)) {
         return;
     }
     m_iButtonMask &= ~MsgBtnCancel;
@@ -303,7 +307,8 @@ void CVelmarMessageBox::AddFuncButton()
     ui->m_layoutBtn->addStretch(0);
     int remaining = m_iButtonMask & kAllButtons;
     for (auto text = m_mapBtnText.cbegin(); remaining != 0 && text != m_mapBtnText.cend(); ++text) {
-        if (!(remaining & text.key())) {
+        // A caller's key of several bits, or of none, stands for no button.
+        if (!(remaining & text.key()) || CountBits(text.key()) != 1) {
             continue;
         }
         remaining &= ~text.key();
