@@ -282,8 +282,15 @@ void CProgressWidget::setText(QString text)
     label->setMaximumHeight(QWIDGETSIZE_MAX);
     label->setText(text);
     label->adjustSize();
-    adjustSize();
+    // Fixed before the dialog is adjusted: a shown dialog hands its label the height that a wider one would need, since
+    // the spacer beside the title wishes for more width than the dialog may have.
     label->setFixedHeight(WholeOnScreen(label->height()));
+    // Each layout learns the new height from the one within it, otherwise one turn of the event loop later.
+    for (QWidget* widget = label->parentWidget(); widget != this; widget = widget->parentWidget()) {
+        widget->layout()->activate();
+    }
+    layout()->activate();
+    adjustSize();
     m_strText = std::move(text);
 }
 
