@@ -11,6 +11,9 @@ namespace {
 // What hangs over the screen's edges of a maximised window would be cut off without it.
 constexpr int kMaximizedMargin = 5;
 
+// Chooses a device context by the window's own style; the system knows the flag, its headers do not name it.
+constexpr DWORD kDcxUseStyle = 0x00010000;
+
 QPoint CursorInside(const QWidget* window)
 {
     return window->mapFromGlobal(QCursor::pos());
@@ -44,7 +47,7 @@ void FollowScreens(const NativeFrame& frame)
 void FillFrame(const NativeFrame& frame, WPARAM update)
 {
     const HWND hwnd = reinterpret_cast<HWND>(frame.window->winId());
-    const HDC dc = GetDCEx(hwnd, nullptr, DCX_WINDOW | DCX_USESTYLE);
+    const HDC dc = GetDCEx(hwnd, nullptr, DCX_WINDOW | kDcxUseStyle);
     if (!dc) {
         return;
     }
