@@ -5,6 +5,7 @@ PACKAGES_BUILD=(g++ cmake ninja-build ccache qt6-base-dev qt6-base-dev-tools qt6
                 libgl1-mesa-dev libvulkan-dev)
 PACKAGES_SHOW=(fonts-noto-cjk fonts-noto-core)
 PACKAGES_DISPLAY=(xvfb xauth openbox x11-utils xdotool)
+PACKAGES_WINDOWS=(g++-mingw-w64-x86-64-posix wine wine64 xz-utils)
 PACKAGES_TEST=(git iproute2 util-linux libbenchmark-dev binutils clang-format)
 
 say() { printf '== %s\n' "$*"; }
@@ -50,4 +51,17 @@ build_preset() {
     mkdir -p build
     cmake --preset "$preset" "${options[@]}" >build/configure.log 2>&1 || { cat build/configure.log; return 1; }
     cmake --build --preset "$preset" "${targets[@]}"
+}
+
+# Shows what of a verbose ctest log needs a look, ctest's own summary, and the sum of Qt Test's closing lines, which it
+# leaves in passed, failed and skipped.
+report_log() {
+    local log=$1
+    grep -E '^[0-9]+: (FAIL!|XPASS|SKIP|QFATAL|QWARN .*(QObject::connect|QPainter|QLayout))|ERROR: (Address|Leak)Sanitizer|runtime error:' \
+        -A2 "$log" | sort -u | head -n 80 || true
+    sed -n '/tests passed,/,$p' "$log"
+    read -r passed failed skipped < <(
+        sed -nE 's/^([0-9]+: )?Totals: ([0-9]+) passed, ([0-9]+) failed, ([0-9]+) skipped.*/\2 \3 \4/p' "$log" |
+            awk '{p += $1; f += $2; s += $3} END {print p + 0, f + 0, s + 0}')
+    printf 'functions: %d passed, %d failed, %d skipped\n' "$passed" "$failed" "$skipped"
 }
