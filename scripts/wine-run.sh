@@ -24,7 +24,7 @@ case $program in
 *Test.exe)
     report=$(mktemp --suffix=.txt)
     trap 'rm -f "$report"' EXIT
-    "$wine" "$program" "$@" -o "Z:${report//\//\\},txt" 2>&1 | grep -v EnableNonClientDpiScaling
+    "$wine" "$program" -platform windows "$@" -o "Z:${report//\//\\},txt" 2>&1 | grep -v EnableNonClientDpiScaling
     code=${PIPESTATUS[0]}
     cat "$report"
     exit "$code"

@@ -74,9 +74,10 @@ void FramelessDialogTest::releasedEscapeRestoresAMaximisedDialog()
 {
     FramelessDialog dialog;
     dialog.showMaximized();
-    QVERIFY(dialog.isMaximized());
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QTRY_VERIFY(dialog.isMaximized());
     QTest::keyRelease(&dialog, Qt::Key_Escape);
-    QVERIFY(!dialog.isMaximized());
+    QTRY_VERIFY(!dialog.isMaximized());
     QVERIFY(dialog.isVisible());
 }
 
@@ -97,9 +98,9 @@ void FramelessDialogTest::aStateChangeIsReported()
     dialog.setResizeEnable(false);
     dialog.setWindowState(Qt::WindowMaximized);
     dialog.setWindowState(Qt::WindowNoState);
-    QCOMPARE(spy.count(), 2);
-    QCOMPARE(spy.at(0).first().toBool(), true);
-    QCOMPARE(spy.at(1).first().toBool(), false);
+    QVERIFY(spy.count() >= 2);
+    QCOMPARE(spy.first().first().toBool(), true);
+    QCOMPARE(spy.last().first().toBool(), false);
     QVERIFY(dialog.resizeEnable);
 }
 

@@ -64,16 +64,14 @@ void FramelessMainWindowTest::everyStateButTheNormalOneCountsAsMaximised()
 {
     FramelessMainWindow window;
     window.show();
-    QSignalSpy spy(&window, &FramelessMainWindow::windowStateChange);
-    window.setWindowState(Qt::WindowMaximized);
-    window.setWindowState(Qt::WindowNoState);
-    window.setWindowState(Qt::WindowFullScreen);
-    window.setWindowState(Qt::WindowMinimized);
-    QList<bool> states;
-    for (const QList<QVariant>& call : spy) {
-        states.append(call.first().toBool());
+    // A system may report one change several times, so only the newest report counts.
+    for (const auto& [state, max] : {std::pair(Qt::WindowMaximized, true), std::pair(Qt::WindowNoState, false),
+                                     std::pair(Qt::WindowFullScreen, true), std::pair(Qt::WindowMinimized, true)}) {
+        QSignalSpy spy(&window, &FramelessMainWindow::windowStateChange);
+        window.setWindowState(state);
+        QVERIFY(!spy.isEmpty());
+        QCOMPARE(spy.last().first().toBool(), max);
     }
-    QCOMPARE(states, (QList<bool>{true, false, true, true}));
 }
 
 void FramelessMainWindowTest::aStateChangeOverwritesTheHostsFlags()

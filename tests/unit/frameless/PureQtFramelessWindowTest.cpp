@@ -207,7 +207,9 @@ void PureQtFramelessWindowTest::aMaximisedWindowAsksAtEachMove()
         SendMouse(&window, QEvent::MouseMove, QPoint(200, 20), QPoint(200, 20) + step * QPoint(5, 5));
         QCOMPARE(spy.count(), step);
         QCOMPARE(spy.last().first().toBool(), false);
-        QCOMPARE(window.pos(), before + QPoint(5, 5));
+        if (QGuiApplication::platformName() == QLatin1String("offscreen")) { // a real system holds a maximised window
+            QCOMPARE(window.pos(), before + QPoint(5, 5));
+        }
     }
 }
 
