@@ -93,7 +93,7 @@ list() { # folder, name of the resource list, folders listed
 }
 
 sheet() { # folder of pictures, target
-    local tiles=() picture zoom
+    local tiles=() picture zoom columns=8
     for picture in "$1"/*.png "$1"/*.gif; do
         [ -e "$picture" ] || continue
         zoom=300%
@@ -103,7 +103,7 @@ sheet() { # folder of pictures, target
             -set label "$(basename "$picture")" \))
     done
     [ ${#tiles[@]} -eq 0 ] || "$(command -v montage-im6.q16 || command -v montage)" "${tiles[@]}" \
-        -background '#f6f6f6' -geometry '+10+8' -tile 6x -pointsize 11 "$2"
+        -background '#f6f6f6' -geometry "+10+8" -tile "${columns}x" -pointsize 10 "$2"
 }
 
 [ "$mode" != --check ] || out=$(mktemp -d)
