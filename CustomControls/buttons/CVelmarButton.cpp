@@ -12,6 +12,8 @@
 #include <QPainter>
 #include <QPointer>
 
+#include <algorithm>
+
 namespace {
 
 enum Look
@@ -51,6 +53,24 @@ void ApplySheet(QLabel* label, const QString& sheet)
     if (label->styleSheet() != sheet) {
         label->setStyleSheet(sheet);
     }
+}
+
+// Keeps a change of style from the labels, so that their layout is not computed anew.
+class LayoutShield : public QObject
+{
+public:
+    LayoutShield(QWidget* first, QWidget* second)
+    {
+        first->installEventFilter(this);
+        second->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override { return event->type() == QEvent::StyleChange; }
+};
+
+bool HoldsOneValue(const QString& text)
+{
+    return !text.contains(QLatin1Char(';'));
 }
 
 template <typename T>
@@ -445,8 +465,21 @@ void CVelmarButton::paintEvent(QPaintEvent* event)
 void CVelmarButton::ChangeState(int state)
 {
     m_iState = state;
-    SetButtonStyle();
+    if (HasLooksOfOneSize()) {
+        // Colours and images change, sizes do not; the update below covers the labels.
+        const LayoutShield shield(m_pIconLabel, m_pTextLabel);
+        SetButtonStyle();
+    } else {
+        SetButtonStyle();
+    }
     update();
+}
+
+bool CVelmarButton::HasLooksOfOneSize() const
+{
+    // Behind a semicolon a host may have hidden a padding or a width.
+    const auto all = [](const QString(&looks)[4]) { return std::all_of(looks, looks + 4, HoldsOneValue); };
+    return all(m_strTextColor) && all(m_strIcon) && all(m_strTextIcon);
 }
 
 int CVelmarButton::StateIndex() const

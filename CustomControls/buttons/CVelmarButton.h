@@ -153,6 +153,8 @@ private:
     void RedrawBackground(QPainter& painter);
     void DrawBackgroundPixmap(QPainter& painter);
     void ChangeState(int state);
+    /** Whether the mouse changes colours and images only, whatever the host's texts hold. */
+    bool HasLooksOfOneSize() const;
     /** m_iState as an index of the arrays of looks. */
     int StateIndex() const;
     QString IconSheet(int look) const;

@@ -71,7 +71,7 @@ void CDelegateLineEdit::setEditorData(QWidget* editor, const QModelIndex& index)
     s_pEditor = edit;
     // The text comes before the validator, so that a value beyond the pattern shows nevertheless.
     edit->setText(text);
-    // Nobody owns the validator: an editor that outlives the delegate keeps its check.
+    // Nobody owns the validator, so an editor that outlives the delegate keeps its check.
     edit->setValidator(new QRegularExpressionValidator(QRegularExpression(QLatin1String(kNumberPattern)), nullptr));
     if (!edit->isActiveWindow()) {
         edit->activateWindow();
