@@ -84,9 +84,10 @@ list() { # folder, name of the resource list, folders listed
         echo '<!DOCTYPE RCC>'
         echo '<RCC version="1.0">'
         echo '  <qresource prefix="/">'
-        (cd "$folder" && find "$@" -type f \( -name '*.png' -o -name '*.gif' \) | LC_ALL=C sort) | while read -r file; do
-            echo "    <file>$file</file>"
-        done
+        (cd "$folder" && find "$@" -type f \( -name '*.png' -o -name '*.gif' \)) | LC_ALL=C sort |
+            while read -r file; do
+                echo "    <file>$file</file>"
+            done
         echo '  </qresource>'
         echo '</RCC>'
     } > "$folder/$name"
@@ -99,7 +100,7 @@ sheet() { # folder of pictures, target
         zoom=300%
         case $picture in *usb3*|*_bg*) zoom=100% ;; *material*|*img_pop*|*gif*|*tool_*) zoom=200% ;; esac
         case $picture in *@2x*) zoom=$((${zoom%\%} / 2))% ;; esac
-        tiles+=(\( "$picture[0]" -background '#f6f6f6' -alpha remove -filter point -resize "$zoom"
+        tiles+=(\( "${picture}[0]" -background '#f6f6f6' -alpha remove -filter point -resize "$zoom"
             -set label "$(basename "$picture")" \))
     done
     [ ${#tiles[@]} -eq 0 ] || "$(command -v montage-im6.q16 || command -v montage)" "${tiles[@]}" \
