@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QWidget>
+#include <QWindow>
 
 CorvaneSignalHelper* CorvaneSignalHelper::instance()
 {
@@ -26,27 +27,30 @@ void CorvaneSignalHelper::SetInCheckingEnvironment(bool checking)
 
 void CorvaneSignalHelper::AdjustWindowPosition(QWidget* widget)
 {
-    if (!widget) {
+    if (!widget || !widget->isWindow()) {
         return;
     }
-    QRect anchor;
-    QWidget* over = widget->parentWidget() ? widget->parentWidget()->window() : QApplication::activeWindow();
-    if (over && over != widget && over->isVisible()) {
-        anchor = over->frameGeometry();
+    const QWidget* parent = widget->parentWidget() ? widget->parentWidget()->window() : nullptr;
+    const QWidget* over = nullptr;
+    for (const QWidget* candidate : {parent, static_cast<const QWidget*>(QApplication::activeWindow())}) {
+        if (candidate && candidate != widget && candidate->isVisible() && !candidate->isMinimized()) {
+            over = candidate;
+            break;
+        }
     }
-    QScreen* screen = anchor.isValid() ? over->screen() : QGuiApplication::screenAt(QCursor::pos());
+    const QRect anchor = over ? over->frameGeometry() : QRect();
+    QScreen* screen = QGuiApplication::screenAt(over ? anchor.center() : QCursor::pos());
     if (!screen) {
-        screen = QGuiApplication::primaryScreen();
+        screen = over ? over->screen() : QGuiApplication::primaryScreen();
     }
     if (!screen) {
         return;
     }
     const QRect available = screen->availableGeometry();
-    if (!anchor.isValid()) {
-        anchor = available;
-    }
-    QRect place(QPoint(), widget->size());
-    place.moveCenter(anchor.center());
+    const QRect room = over ? anchor : available;
+    const QMargins frame = widget->windowHandle() ? widget->windowHandle()->frameMargins() : QMargins();
+    QRect place(room.topLeft(), widget->size().grownBy(frame));
+    place.translate((room.width() - place.width()) / 2, (room.height() - place.height()) / 2);
     // The left and top edges win where a window is larger than the screen: its title stays in reach.
     place.moveLeft(qMax(available.left(), qMin(place.left(), available.right() + 1 - place.width())));
     place.moveTop(qMax(available.top(), qMin(place.top(), available.bottom() + 1 - place.height())));

@@ -31,8 +31,10 @@ public:
     void SetInCheckingEnvironment(bool checking);
 
     /**
-     * Moves a window that is being shown to its place: centred over its parent window, else over the active window,
-     * else on the screen under the cursor, and always inside that screen's available geometry. Null is ignored.
+     * Moves a window that is being shown to its place: centred over its parent's window, else over the active window,
+     * else on the screen under the cursor, and always inside that screen's available geometry. A window that is hidden
+     * or minimised is passed over. Of a window larger than the screen the top left corner stays in view. Null, and a
+     * widget that is no window, are ignored.
      */
     void AdjustWindowPosition(QWidget* widget);
 

@@ -34,7 +34,11 @@ public:
 
     /** The type code of a tool; -1 for a number that the model does not have. */
     int GetIntegerToolTypeByNumber(int toolNumber, ModelType model) const;
-    /** The display name of a type; empty for an unknown one. */
+    /**
+     * The display name of a type, in the product's language; empty for an unknown one. Built in are 0 reamer, 1 end
+     * mill, 2 relieved end mill, 3 ball nose mill, 4 relieved ball nose mill, 5 bull nose mill, 6 engraving cutter, 7
+     * tapered ball nose mill.
+     */
     QString GetToolNameByType(int toolType) const;
     /** The detail text of a tool; empty for a number that the model does not have. */
     QString GetToolDetailByNumber(int toolNumber, ModelType model) const;
@@ -45,9 +49,10 @@ public:
     void SetTools(ModelType model, const QList<ToolBit>& tools);
 
     /**
-     * Replaces tools and type names from a JSON file; docs/tool-data.md tells its form.
+     * Replaces the tools of each model that a JSON file names, and the type names that it gives; docs/tool-data.md
+     * tells its form.
      *
-     * @param error receives the reason of a failure; may be null
+     * @param error receives the reason of a failure in words for the user, and is emptied on success; may be null
      * @return false when the file cannot be read or is not in that form: then everything stays as it was
      */
     bool LoadTools(const QString& jsonFile, QString* error);

@@ -1,6 +1,7 @@
 #include <CorvaneBase/FtpConnection.h>
 
 #include <QElapsedTimer>
+#include <QHostAddress>
 #include <QMutex>
 #include <QNetworkProxy>
 #include <QTcpSocket>
@@ -10,12 +11,17 @@ namespace {
 constexpr quint16 kFilePort = 21;
 constexpr int kGreetingMs = 3000;
 constexpr int kFarewellMs = 500;
+constexpr qint64 kGreetingBytes = 4096; // a service that floods is not read any further
 
 QMutex g_providerMutex;
 std::function<bool(const QString&)> g_provider;
 
 bool ProbeFileService(const QString& ip)
 {
+    const QHostAddress address(ip);
+    if (address.isNull()) {
+        return false; // a name would have to be looked up first, which nothing bounds
+    }
     QTcpSocket socket;
     // A proxy configured on the computer never leads to a machine on the local network.
     socket.setProxy(QNetworkProxy::NoProxy);
@@ -23,7 +29,8 @@ bool ProbeFileService(const QString& ip)
     clock.start();
     const auto left = [&clock] { return int(qMax<qint64>(0, kGreetingMs - clock.elapsed())); };
 
-    socket.connectToHost(ip, kFilePort);
+    socket.setReadBufferSize(kGreetingBytes);
+    socket.connectToHost(address, kFilePort);
     if (!socket.waitForConnected(left())) {
         return false;
     }

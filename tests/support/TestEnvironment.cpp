@@ -6,10 +6,15 @@
 #include <CorvaneBase/NetworkConfigurator.h>
 
 #include <QApplication>
+#include <QDir>
 #include <QFont>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLocale>
 #include <QStandardPaths>
 #include <QStyleFactory>
+#include <QTemporaryFile>
 
 void TestEnvironment::PrepareProcess()
 {
@@ -27,6 +32,30 @@ void TestEnvironment::PrepareProcess()
     }
     QStandardPaths::setTestModeEnabled(true);
     QLocale::setDefault(QLocale::c());
+}
+
+void TestEnvironment::PrepareScreens(const QList<Screen>& screens)
+{
+    QJsonArray list;
+    for (const Screen& screen : screens) {
+        const QRect& rect = screen.rectGeometry;
+        list.append(QJsonObject{{QStringLiteral("name"), QStringLiteral("screen%1").arg(list.size())},
+                                {QStringLiteral("x"), rect.x()},
+                                {QStringLiteral("y"), rect.y()},
+                                {QStringLiteral("width"), rect.width()},
+                                {QStringLiteral("height"), rect.height()},
+                                {QStringLiteral("logicalDpi"), 96},
+                                {QStringLiteral("logicalBaseDpi"), 96},
+                                {QStringLiteral("dpr"), screen.dRatio}});
+    }
+    // Read when the application object is made, removed when the process ends.
+    static QTemporaryFile file(QDir::temp().filePath(QStringLiteral("screens-XXXXXX.json")));
+    if (!file.open()) {
+        qFatal("cannot write %s", qPrintable(file.fileName()));
+    }
+    file.write(QJsonDocument(QJsonObject{{QStringLiteral("screens"), list}}).toJson());
+    file.close();
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + file.fileName().toUtf8());
 }
 
 TestEnvironment::TestEnvironment()

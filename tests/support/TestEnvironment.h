@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QList>
+#include <QRect>
 #include <QTemporaryDir>
 
 /**
@@ -11,6 +13,17 @@ class TestEnvironment
 public:
     /** To be called before the application object is made: sets what is read from the process's environment. */
     static void PrepareProcess();
+
+    /**
+     * To be called before the application object is made, after PrepareProcess: the offscreen platform then has these
+     * screens, the first one being the primary.
+     */
+    struct Screen
+    {
+        QRect rectGeometry;  ///< in the desktop's coordinates
+        double dRatio = 1.0; ///< its device pixel ratio
+    };
+    static void PrepareScreens(const QList<Screen>& screens);
 
     /** To be made after the application object. Chinese is the language until a test sets another. */
     TestEnvironment();
