@@ -39,9 +39,11 @@ bool ProbeFileService(const QString& ip)
         greeting += socket.readAll();
     }
     const bool greeted = greeting.startsWith("220");
-    socket.write("QUIT\r\n");
-    socket.waitForBytesWritten(kFarewellMs);
-    socket.disconnectFromHost();
+    if (socket.state() == QAbstractSocket::ConnectedState) {
+        socket.write("QUIT\r\n");
+        socket.waitForBytesWritten(kFarewellMs);
+        socket.disconnectFromHost();
+    }
     if (socket.state() != QAbstractSocket::UnconnectedState) {
         socket.waitForDisconnected(kFarewellMs);
     }

@@ -64,6 +64,7 @@ private:
 
 void FtpConnectionTest::init()
 {
+    QTest::failOnWarning(QRegularExpression(QStringLiteral("QAbstractSocket.*")));
     SetFtpConnectionProvider({});
     m_received.clear();
     m_server = std::make_unique<QTcpServer>();
