@@ -190,7 +190,9 @@ struct CorvaneTextHelper::Private
         QDir().mkpath(QFileInfo(path).absolutePath());
         QSaveFile file(path);
         const QByteArray bytes = QJsonDocument(root).toJson();
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
+        // Flushed before it is committed: a full disk shows only then, and commit() alone would let an empty file
+        // through.
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush() || !file.commit()) {
             CDebugLog::AddLog(
                 QStringLiteral("CorvaneTextHelper: settings cannot be written: %1: %2").arg(path, file.errorString()));
         }
