@@ -36,7 +36,7 @@ double Median(std::vector<double> values)
     return *middle;
 }
 
-// Shows the library's usual lines and keeps each repetition's time for the table.
+// Shows the library's usual lines of aggregates and keeps each repetition's time for the table.
 class RatioReporter : public benchmark::ConsoleReporter
 {
 public:
@@ -46,12 +46,19 @@ public:
 
     void ReportRuns(const std::vector<Run>& runs) override
     {
+        std::vector<Run> aggregates;
         for (const Run& run : runs) {
+            if (run.run_type == Run::RT_Aggregate || run.error_occurred) {
+                aggregates.push_back(run);
+            }
             if (run.run_type == Run::RT_Iteration && !run.error_occurred && run.iterations > 0) {
                 m_times[run.run_name.function_name].push_back(run.real_accumulated_time / double(run.iterations));
             }
         }
-        ConsoleReporter::ReportRuns(runs);
+        // The single repetitions are for the table alone.
+        if (!aggregates.empty()) {
+            ConsoleReporter::ReportRuns(aggregates);
+        }
     }
 
     void PrintTable() const
@@ -153,7 +160,7 @@ int Comparison::Main(int argc, char** argv)
 {
     const std::string repetitions = "--benchmark_repetitions=" + std::to_string(kRepetitions);
     std::vector<std::string> defaults = {argv[0], repetitions, "--benchmark_enable_random_interleaving=true",
-                                         "--benchmark_min_time=0.05", "--benchmark_display_aggregates_only=true"};
+                                         "--benchmark_min_time=0.05"};
     defaults.insert(defaults.end(), argv + 1, argv + argc);
     std::vector<char*> arguments;
     std::transform(defaults.begin(), defaults.end(), std::back_inserter(arguments),

@@ -13,7 +13,7 @@ class QLabel;
 class QVBoxLayout;
 
 /** Which labels a CVelmarButton shows, and whether being chosen shows on it. */
-enum EnumButtonType
+enum EnumButtonType : int
 {
     ButtonTypeIcon = 0,           ///< icon only
     ButtonTypeText = 1,           ///< text only
@@ -21,7 +21,7 @@ enum EnumButtonType
     ButtonTypeTextChoose = 3,     ///< text only, can be chosen
     ButtonTypeIconText = 4,       ///< icon and text
     ButtonTypeIconTextChoose = 5, ///< icon and text, can be chosen
-    ButtonTypeIconImage = 6,      ///< icon, and an image in place of the text
+    ButtonTypeIconImage = 6,      ///< icon, and an image in place of the text: give it an empty text
     ButtonTypeIconImageChoose = 7 ///< the same, can be chosen: icon and painted background only, never the text's image
 };
 

@@ -1,0 +1,122 @@
+#include <benchmarks/Comparison.h>
+
+#include <CorvaneBase/CorvaneFonts.h>
+#include <CustomControls/buttons/CVelmarButton.h>
+
+#include <QPixmap>
+#include <QPushButton>
+#include <QTest>
+
+namespace {
+
+constexpr QRect kPlace(20, 20, 80, 40);
+
+constexpr char kLook[] = "QPushButton{border:none;border-radius:4px;background-color:rgb(230,230,230);"
+                         "color:rgb(102,102,102);%1}"
+                         "QPushButton:hover{background-color:rgb(194,211,231);color:rgb(50,50,50);%2}"
+                         "QPushButton:pressed{background-color:rgb(38,120,218);color:rgb(255,255,255);}";
+
+constexpr char kNormalIcon[] = "url(:/icon/simcontrol/ico_warning_line_b_nor.png)";
+constexpr char kHoverIcon[] = "url(:/icon/simcontrol/ico_warning_line_b_hover.png)";
+
+CVelmarButton* Ours(QWidget* parent, bool withIcon)
+{
+    auto* button = new CVelmarButton(ButtonTypeIconTextChoose, false, true, 0, parent);
+    button->SetButtonText(QStringLiteral("OK"), false);
+    button->SetBtnRadius(4);
+    if (withIcon) {
+        const QString normal = QString::fromLatin1(kNormalIcon);
+        const QString hover = QString::fromLatin1(kHoverIcon);
+        button->SetButtonIcon(normal, normal, hover, normal);
+        button->SetButtonImagePos(4, 0, 4, 0, 16, 16);
+    }
+    return button;
+}
+
+QPushButton* SameLook(QWidget* parent, bool withIcon)
+{
+    auto* button = new QPushButton(QStringLiteral("OK"), parent);
+    button->setFont(FontCn_14);
+    button->setIconSize(QSize(16, 16));
+    const auto icon = [withIcon](const char* url) {
+        return withIcon ? QStringLiteral("icon:%1;").arg(QLatin1String(url)) : QString();
+    };
+    button->setStyleSheet(QString::fromLatin1(kLook).arg(icon(kNormalIcon), icon(kHoverIcon)));
+    return button;
+}
+
+QPushButton* Plain(QWidget* parent, bool)
+{
+    return new QPushButton(QStringLiteral("OK"), parent);
+}
+
+// The mouse enters the button, the window is painted, the mouse leaves and the window is painted again.
+template <typename Make>
+Comparison::Run Hover(Make make, bool withIcon)
+{
+    return [=](benchmark::State& state) {
+        QWidget window;
+        window.resize(400, 200);
+        make(&window, withIcon)->setGeometry(kPlace);
+        window.show();
+        if (!QTest::qWaitForWindowExposed(&window)) {
+            state.SkipWithError("the window does not show");
+            return;
+        }
+        for ([[maybe_unused]] auto step : state) {
+            QTest::mouseMove(window.windowHandle(), kPlace.center());
+            QCoreApplication::processEvents();
+            QTest::mouseMove(window.windowHandle(), QPoint(300, 150));
+            QCoreApplication::processEvents();
+        }
+    };
+}
+
+template <typename Make>
+Comparison::Run Paint(Make make)
+{
+    return [=](benchmark::State& state) {
+        QWidget window;
+        QWidget* button = make(&window, true);
+        button->setGeometry(kPlace);
+        QPixmap pixmap(button->size());
+        for ([[maybe_unused]] auto step : state) {
+            button->render(&pixmap);
+        }
+    };
+}
+
+// Made, shown for the first time and gone.
+template <typename Make>
+Comparison::Run Create(Make make)
+{
+    return [=](benchmark::State& state) {
+        QWidget window;
+        QPixmap pixmap(kPlace.size());
+        for ([[maybe_unused]] auto step : state) {
+            QWidget* button = make(&window, true);
+            button->setGeometry(kPlace);
+            button->render(&pixmap);
+            delete button;
+        }
+    };
+}
+
+const Comparison create =
+    Comparison("button: create and first paint").Ours(Create(Ours)).SameLook(Create(SameLook)).Plain(Create(Plain));
+
+const Comparison paint = Comparison("button: paint").Ours(Paint(Ours)).SameLook(Paint(SameLook)).Plain(Paint(Plain));
+
+const Comparison hover = Comparison("button: hover in and out")
+                             .Ours(Hover(Ours, false))
+                             .SameLook(Hover(SameLook, false))
+                             .Plain(Hover(Plain, false))
+                             .Goal(2.0);
+
+const Comparison hoverWithIcons = Comparison("button: hover in and out, another icon while hovered")
+                                      .Ours(Hover(Ours, true))
+                                      .SameLook(Hover(SameLook, true))
+                                      .Plain(Hover(Plain, true))
+                                      .Goal(2.0);
+
+} // namespace
