@@ -1,15 +1,17 @@
+// The system's sockets come before all else: the toolkit's headers may bring in <windows.h>, with its older ones.
+// clang-format off
+#include <winsock2.h>
+#include <ws2tcpip.h>
+#include <windows.h>
+#include <iphlpapi.h>
+#include <netioapi.h>
+// clang-format on
+
 #include <CorvaneBase/NetworkConfigurator_p.h>
 
 #include <QNetworkInterface>
 #include <QStandardPaths>
 #include <QThread>
-
-// clang-format off: the order of these matters
-#include <iphlpapi.h>
-#include <netioapi.h>
-#include <windows.h>
-#include <winsock2.h>
-// clang-format on
 
 namespace NetworkConfiguratorDetail {
 

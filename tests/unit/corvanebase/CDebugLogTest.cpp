@@ -153,6 +153,9 @@ void CDebugLogTest::relativePathHoldsWhenTheCurrentFolderChanges()
 
 void CDebugLogTest::vanishedFileIsMadeAnew()
 {
+#ifdef Q_OS_WIN
+    QSKIP("Windows keeps an open file where it is");
+#endif
     CDebugLog::AddLog(QStringLiteral("one"));
     QVERIFY(QFile::remove(Path()));
     CDebugLog::AddLog(QStringLiteral("two"));
@@ -161,6 +164,9 @@ void CDebugLogTest::vanishedFileIsMadeAnew()
 
 void CDebugLogTest::vanishedFolderIsMadeAnew()
 {
+#ifdef Q_OS_WIN
+    QSKIP("Windows keeps an open file where it is");
+#endif
     const QString path = Path(QStringLiteral("gone/a.log"));
     CDebugLog::SetLogFile(path);
     CDebugLog::AddLog(QStringLiteral("one"));
@@ -171,6 +177,9 @@ void CDebugLogTest::vanishedFolderIsMadeAnew()
 
 void CDebugLogTest::replacedFileIsTheOneWrittenTo()
 {
+#ifdef Q_OS_WIN
+    QSKIP("Windows keeps an open file where it is");
+#endif
     CDebugLog::AddLog(QStringLiteral("one"));
     QVERIFY(QFile::rename(Path(), Path(QStringLiteral("moved"))));
     QFile other(Path());
