@@ -455,7 +455,7 @@ void CVelmarButton::paintEvent(QPaintEvent* event)
     RedrawBackground(painter);
     painter.end();
 
-    // The labels paint after the button, so their first look is in time here, and a host's setters before cost nothing.
+    // The labels paint after the button, so they wear their first look in this very picture.
     if (m_bFirstPaint) {
         SetButtonStyle();
         m_bFirstPaint = false;
@@ -477,7 +477,10 @@ void CVelmarButton::ChangeState(int state)
 
 bool CVelmarButton::HasLooksOfOneSize() const
 {
-    // Behind a semicolon a host may have hidden a padding or a width.
+    // A first sheet brings another style with it, and behind a semicolon a host may have hidden a padding or a width.
+    if (m_pTextLabel->styleSheet().isEmpty()) {
+        return false;
+    }
     const auto all = [](const QString(&looks)[4]) { return std::all_of(looks, looks + 4, HoldsOneValue); };
     return all(m_strTextColor) && all(m_strIcon) && all(m_strTextIcon);
 }

@@ -153,7 +153,7 @@ private:
     void RedrawBackground(QPainter& painter);
     void DrawBackgroundPixmap(QPainter& painter);
     void ChangeState(int state);
-    /** Whether the mouse changes colours and images only, whatever the host's texts hold. */
+    /** Whether the mouse will change colours and images of the labels only, so that no size can change with them. */
     bool HasLooksOfOneSize() const;
     /** m_iState as an index of the arrays of looks. */
     int StateIndex() const;

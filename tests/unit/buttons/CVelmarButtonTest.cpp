@@ -133,6 +133,8 @@ private Q_SLOTS:
     void imagesTakeTheSizeOfTheMoment();
     void radiusRoundsTheCornersWithTheNextPaint();
     void hoverEntersAndLeaves();
+    void hoverBeforeTheFirstPaintStyles();
+    void hoverAsksForNoLayout();
     void hoverWithoutChangeTouchesNoLabel();
     void pressAndReleaseInsideClicks();
     void pressAndReleaseOutsideEmitsNothing();
@@ -652,6 +654,39 @@ void CVelmarButtonTest::hoverEntersAndLeaves()
     QVERIFY(!stage.button->m_bHovered);
     QCOMPARE(stage.TextSheet(), QStringLiteral("color:#000001;background:transparent;"));
     QCOMPARE(Picture(*stage.button).pixelColor(1, 1), QColor(230, 230, 230));
+}
+
+void CVelmarButtonTest::hoverBeforeTheFirstPaintStyles()
+{
+    CVelmarButton button(ButtonTypeIconTextChoose, false, true, 0, nullptr);
+    QEnterEvent event(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
+    QApplication::sendEvent(&button, &event);
+    QVERIFY(button.m_bFirstPaint);
+    QCOMPARE(button.m_pIconLabel->styleSheet(), QStringLiteral("image:;background:transparent;"));
+    QCOMPARE(button.m_pTextLabel->styleSheet(), QStringLiteral("color:rgb(50,50,50);background:transparent;"));
+}
+
+void CVelmarButtonTest::hoverAsksForNoLayout()
+{
+    class LayoutCounter : public QObject
+    {
+    public:
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            count += event->type() == QEvent::LayoutRequest;
+            return false;
+        }
+        int count = 0;
+    };
+    const Stage stage(ButtonTypeIconTextChoose);
+    Dress(*stage.button);
+    QCoreApplication::processEvents();
+    LayoutCounter counter;
+    stage.button->installEventFilter(&counter);
+    stage.Enter();
+    stage.Leave();
+    QCoreApplication::processEvents();
+    QCOMPARE(counter.count, 0);
 }
 
 void CVelmarButtonTest::hoverWithoutChangeTouchesNoLabel()
