@@ -12,6 +12,8 @@ constexpr char kSameLook[] = "same look";
 constexpr char kPlain[] = "plain";
 constexpr char kSeparator = '|';
 constexpr int kRepetitions = 9;
+constexpr int kTimed = 0;
+constexpr int kGrowthIterations = 5;
 
 struct Line
 {
@@ -105,19 +107,19 @@ Comparison::Comparison(std::string name)
 
 Comparison& Comparison::Ours(Run run)
 {
-    Register(kOurs, std::move(run), false);
+    Register(kOurs, std::move(run), kTimed);
     return *this;
 }
 
 Comparison& Comparison::SameLook(Run run)
 {
-    Register(kSameLook, std::move(run), false);
+    Register(kSameLook, std::move(run), kTimed);
     return *this;
 }
 
 Comparison& Comparison::Plain(Run run)
 {
-    Register(kPlain, std::move(run), false);
+    Register(kPlain, std::move(run), kTimed);
     return *this;
 }
 
@@ -138,19 +140,33 @@ Comparison& Comparison::Growth(const std::function<double(int entries)>& fill, i
             }
         };
     };
-    Register(kOurs, perEntry(large), true);
-    Register(kSameLook, perEntry(small), true);
+    Register(kOurs, perEntry(large), kGrowthIterations);
+    Register(kSameLook, perEntry(small), kGrowthIterations);
     return *this;
 }
 
-void Comparison::Register(const char* variant, Run run, bool manualTime) const
+Comparison& Comparison::Counted(const std::function<double()>& ours, const std::function<double()>& sameLook)
+{
+    const auto once = [](const std::function<double()>& work) {
+        return [work](benchmark::State& state) {
+            for ([[maybe_unused]] auto step : state) {
+                state.SetIterationTime(work());
+            }
+        };
+    };
+    Register(kOurs, once(ours), 1);
+    Register(kSameLook, once(sameLook), 1);
+    return *this;
+}
+
+void Comparison::Register(const char* variant, Run run, int countedIterations) const
 {
     benchmark::internal::Benchmark* entry =
         benchmark::RegisterBenchmark((m_strName + kSeparator + variant).c_str(), std::move(run));
     entry->Unit(benchmark::kMicrosecond);
-    if (manualTime) {
-        // One share of the time is far below the default minimum; a fixed count keeps a run of 10,000 entries short.
-        entry->UseManualTime()->Iterations(5);
+    if (countedIterations != kTimed) {
+        // What is counted is far below the default minimum of time; a fixed number of iterations keeps the run short.
+        entry->UseManualTime()->Iterations(countedIterations);
     } else {
         entry->UseRealTime();
     }

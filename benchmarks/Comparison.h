@@ -41,11 +41,17 @@ public:
      */
     Comparison& Growth(const std::function<double(int entries)>& fill, int small, int large);
 
+    /**
+     * For what a clock doesn't show: each function does its work once and returns the seconds to be counted, such as
+     * the processor time that a second of waiting takes.
+     */
+    Comparison& Counted(const std::function<double()>& ours, const std::function<double()>& sameLook);
+
     /** Runs all of them and prints the table; arguments are those of the benchmark library. */
     static int Main(int argc, char** argv);
 
 private:
-    void Register(const char* variant, Run run, bool manualTime) const;
+    void Register(const char* variant, Run run, int countedIterations) const;
 
     std::string m_strName;
 };

@@ -171,6 +171,7 @@ private:
     int WholeOnScreen(int size) const;
     int NextAutoValue() const;
     void AdvanceBar();
+    void RelaxMovieTimer();
     void CopyMovieFrame();
     bool IsClosedByProgram() const;
 

@@ -8,6 +8,7 @@
 
 #include <tests/support/TestMain.h>
 
+#include <QAbstractEventDispatcher>
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QEventLoop>
@@ -96,6 +97,7 @@ private Q_SLOTS:
     void barStartsWhereTheTextStarts();
     void newFrameGoesToTheLabel();
     void sameFrameIsNotCopiedAgain();
+    void movieTimerWakesTheProcessSeldom();
 
     // Factories.
     void createWidgetPtrGivesAHiddenDialog();
@@ -365,6 +367,19 @@ void CProgressWidgetTest::sameFrameIsNotCopiedAgain()
     Label(dialog, "label_2")->clear();
     Tick(dialog.m_pTimerMovie);
     QVERIFY(Label(dialog, "label_2")->pixmap(Qt::ReturnByValue).isNull());
+}
+
+void CProgressWidgetTest::movieTimerWakesTheProcessSeldom()
+{
+    const CProgressWidget dialog(nullptr);
+    QCOMPARE(dialog.m_pTimerMovie->interval(), 1);
+    QVERIFY(dialog.m_pTimerMovie->isActive());
+    const auto timers = QAbstractEventDispatcher::instance()->registeredTimers(dialog.m_pTimerMovie);
+    QCOMPARE(timers.size(), 1);
+    QCOMPARE(timers.first().timerId, dialog.m_pTimerMovie->timerId());
+    QVERIFY(timers.first().interval >= 20);
+    QSignalSpy ticks(dialog.m_pTimerMovie, &QTimer::timeout);
+    QTRY_VERIFY(ticks.size() >= 3);
 }
 
 void CProgressWidgetTest::createWidgetPtrGivesAHiddenDialog()
