@@ -107,6 +107,12 @@ CSelectMachineBox::CSelectMachineBox(QWidget* parent)
         disconnect(closeButton, nullptr, this, nullptr);
     }
     ui->setupUi(this);
+    // The outer layout of the panel's form: owned by the panel like that of the shell, which is the one in use.
+    auto* outerLayout = new QVBoxLayout;
+    outerLayout->setObjectName(QStringLiteral("verticalLayout"));
+    outerLayout->setSpacing(0);
+    outerLayout->setContentsMargins(0, 0, 0, 0);
+    static_cast<QObject*>(outerLayout)->setParent(this);
 
     SetBoxInfo(QStringLiteral(":/icon/lianjie 1.png"), tr("新建连接"), tr(""));
     SetChildUI(ui->central);
