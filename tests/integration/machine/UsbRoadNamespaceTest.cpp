@@ -373,6 +373,8 @@ void UsbRoadNamespaceTest::panelDeletedWhileTheSuccessShows()
 int main(int argc, char* argv[])
 {
     g_inOwnNamespace = unshare(CLONE_NEWNET) == 0;
+    qputenv("QT_QPA_PLATFORM",
+            "offscreen"); // in there it needs no display, and a display's services would be out of reach
     TestEnvironment::PrepareProcess();
     QApplication app(argc, argv);
     const TestEnvironment environment;
