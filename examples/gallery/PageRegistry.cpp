@@ -1,0 +1,38 @@
+#include "PageRegistry.h"
+
+#include "pages/ButtonsPage.h"
+#include "pages/MachinePage.h"
+#include "pages/MessageBoxesPage.h"
+#include "pages/ProgressPage.h"
+
+#include <QCoreApplication>
+
+namespace {
+template <class Page>
+GalleryPage* Create(const GalleryOptions& options)
+{
+    return new Page(options);
+}
+
+QString Text(const char* text)
+{
+    return QCoreApplication::translate("PageRegistry", text);
+}
+} // namespace
+
+const QList<PageEntry>& GalleryPages()
+{
+    // clang-format off
+    static const QList<PageEntry> pages = {
+        {QStringLiteral("buttons"), Text(QT_TRANSLATE_NOOP("PageRegistry", "主题按钮")),
+         Text(QT_TRANSLATE_NOOP("PageRegistry", "八种类型的按钮，三种背景，可选中、可带气泡。")), Create<ButtonsPage>},
+        {QStringLiteral("message-boxes"), Text(QT_TRANSLATE_NOOP("PageRegistry", "消息框")),
+         Text(QT_TRANSLATE_NOOP("PageRegistry", "一次调用即可提问，返回用户按下的按钮。")), Create<MessageBoxesPage>},
+        {QStringLiteral("machine"), Text(QT_TRANSLATE_NOOP("PageRegistry", "连接机床")),
+         Text(QT_TRANSLATE_NOOP("PageRegistry", "通过有线网络、无线网络或 USB Type-C 找到并连接机床。")), Create<MachinePage>},
+        {QStringLiteral("progress"), Text(QT_TRANSLATE_NOOP("PageRegistry", "进度对话框")),
+         Text(QT_TRANSLATE_NOOP("PageRegistry", "长时间任务的进度：由程序给出，或自行缓慢前进。")), Create<ProgressPage>},
+    };
+    // clang-format on
+    return pages;
+}

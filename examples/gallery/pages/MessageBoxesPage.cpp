@@ -1,0 +1,232 @@
+#include "MessageBoxesPage.h"
+
+#include "../GalleryTile.h"
+
+#include <CorvaneBase/CorvaneToolBitHelper.h>
+#include <CustomControls/messagebox/CVelmarMessageBox.h>
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QPointer>
+#include <QStandardPaths>
+#include <QTimer>
+
+#include <array>
+#include <memory>
+
+namespace {
+constexpr int Columns = 3;
+constexpr int PreviewMs = 4000;
+
+QString CodeName(int code)
+{
+    switch (code) {
+    case 0:
+        return QStringLiteral("0");
+    case MsgBtnOk:
+        return QStringLiteral("MsgBtnOk");
+    case MsgBtnCancel:
+        return QStringLiteral("MsgBtnCancel");
+    case MsgBtnYes:
+        return QStringLiteral("MsgBtnYes");
+    case MsgBtnNo:
+        return QStringLiteral("MsgBtnNo");
+    case MsgBtnDeletePackage:
+        return QStringLiteral("MsgBtnDeletePackage");
+    case MsgBtnRemindLater:
+        return QStringLiteral("MsgBtnRemindLater");
+    case MsgBtnUpgradeNow:
+        return QStringLiteral("MsgBtnUpgradeNow");
+    case MsgBtnRestartLater:
+        return QStringLiteral("MsgBtnRestartLater");
+    case MsgBtnRestartNow:
+        return QStringLiteral("MsgBtnRestartNow");
+    case MsgBtnCancelPlain:
+        return QStringLiteral("MsgBtnCancelPlain");
+    case MsgBtnUploadParams:
+        return QStringLiteral("MsgBtnUploadParams");
+    case MsgBtnIgnore:
+        return QStringLiteral("MsgBtnIgnore");
+    case MsgBtnRetry:
+        return QStringLiteral("MsgBtnRetry");
+    default:
+        return QString::number(code);
+    }
+}
+
+QGridLayout* CreateGrid()
+{
+    auto* grid = new QGridLayout;
+    grid->setSpacing(12);
+    for (int column = 0; column < Columns; ++column) {
+        grid->setColumnStretch(column, 1);
+    }
+    return grid;
+}
+} // namespace
+
+MessageBoxesPage::MessageBoxesPage(const GalleryOptions&)
+    : m_pOutcome(AddOutcomeLine(QStringLiteral("boxOutcome")))
+{
+    m_pOutcome->setText(tr("点击一个例子，这里会显示返回值。"));
+    AddIcons();
+    AddEntryPoints();
+}
+
+void MessageBoxesPage::ShowCode(int code, const QString& remark)
+{
+    m_pOutcome->setText(tr("返回值：%1（%2）").arg(code).arg(CodeName(code)) + remark);
+}
+
+void MessageBoxesPage::AddQuestion(QGridLayout* grid, const QString& name, const QString& picture, const QString& title,
+                                   const QString& detail, const std::function<int()>& ask)
+{
+    auto* tile = new GalleryTile(name, picture, title, detail);
+    // The page may go while the box is open: the program can quit under it.
+    connect(tile, &QPushButton::clicked, this, [page = QPointer<MessageBoxesPage>(this), ask] {
+        const int code = ask();
+        if (page && code >= 0) {
+            page->ShowCode(code);
+        }
+    });
+    const int index = grid->count();
+    grid->addWidget(tile, index / Columns, index % Columns);
+}
+
+void MessageBoxesPage::AddIcons()
+{
+    QGridLayout* grid = CreateGrid();
+    AddQuestion(grid, QStringLiteral("boxInformation"), QStringLiteral(":/icon/img_pop_5.png"), tr("告知"),
+                QStringLiteral("MsgIconPop5"), [this] {
+                    return CVelmarMessageBox::ShowWindow(window(), MsgBtnOk, MsgIconPop5, tr("提示"),
+                                                         tr("工程已保存。"), {});
+                });
+    AddQuestion(grid, QStringLiteral("boxQuestion"), QStringLiteral(":/icon/img_pop_2.png"), tr("询问"),
+                QStringLiteral("MsgIconPop2"), [this] {
+                    return CVelmarMessageBox::ShowWindow(window(), MsgBtnOk | MsgBtnCancel, MsgIconPop2, tr("开始加工"),
+                                                         tr("请确认毛坯已夹紧，主轴周围没有杂物。"), {});
+                });
+    AddQuestion(grid, QStringLiteral("boxWarning"), QStringLiteral(":/icon/img_pop_3.png"), tr("警告"),
+                QStringLiteral("MsgIconPop3"), [this] {
+                    return CVelmarMessageBox::ShowWindow(window(), MsgBtnYes | MsgBtnNo | MsgBtnCancel, MsgIconPop3,
+                                                         tr("未保存的修改"), tr("关闭前要保存对“支架”的修改吗？"), {});
+                });
+    AddQuestion(grid, QStringLiteral("boxSuccess"), QStringLiteral(":/icon/img_pop_1.png"), tr("完成"),
+                QStringLiteral("MsgIconPop1"), [this] {
+                    return CVelmarMessageBox::ShowWindow(window(), MsgBtnOk, MsgIconPop1, tr("加工完成"),
+                                                         tr("用时 1 小时 24 分，请取下工件。"), {});
+                });
+    auto* preview = new GalleryTile(QStringLiteral("boxLoading"), QStringLiteral(":/icon/gif_pop_bac.gif"), tr("等待"),
+                                    QStringLiteral("MsgIconLoading"));
+    connect(preview, &QPushButton::clicked, this, &MessageBoxesPage::RunPreview);
+    grid->addWidget(preview, grid->count() / Columns, grid->count() % Columns);
+    AddQuestion(grid, QStringLiteral("boxLong"), QStringLiteral(":/icon/img_pop_5.png"), tr("长文本"),
+                tr("超过 250 个字符，窗口随文字增高"), [this] {
+                    QString text;
+                    for (int line = 1; line <= 12; ++line) {
+                        text += tr("%1. 换刀之前请先停止主轴，等待冷却，再打开防护罩，最后核对刀库编号。").arg(line) +
+                                QLatin1Char('\n');
+                    }
+                    return CVelmarMessageBox::ShowWindow(window(), MsgBtnOk, MsgIconPop5, tr("换刀须知"),
+                                                         text.trimmed(), {});
+                });
+    AddCard(tr("图标"), tr("五种图标各用在它自然的场合。"))->addLayout(grid);
+}
+
+void MessageBoxesPage::AddEntryPoints()
+{
+    QGridLayout* grid = CreateGrid();
+    AddQuestion(
+        grid, QStringLiteral("boxRelabelled"), QString(), tr("自定义按钮文字"), QStringLiteral("ShowWindow"), [this] {
+            return CVelmarMessageBox::ShowWindow(window(), MsgBtnRetry | MsgBtnIgnore, MsgIconPop3, tr("刀具磨损"),
+                                                 tr("2 号刀具已使用 40 小时。"),
+                                                 {{MsgBtnIgnore, tr("继续使用")}, {MsgBtnRetry, tr("更换刀具")}});
+        });
+    AddQuestion(grid, QStringLiteral("boxUpgrade"), QString(), tr("升级"), QStringLiteral("ShowWindowExt"), [this] {
+        return CVelmarMessageBox::ShowWindowExt(window(), MsgBtnDeletePackage | MsgBtnRemindLater | MsgBtnUpgradeNow,
+                                                MsgIconPop2, tr("发现新版本"), tr("新版本已下载完成，可以立即安装。"));
+    });
+    AddQuestion(grid, QStringLiteral("boxAutoClose"), QString(), tr("两秒后消失"),
+                QStringLiteral("ShowWindowAutoClose"), [this] {
+                    return CVelmarMessageBox::ShowWindowAutoClose(window(), 0, MsgIconPop1, QString(),
+                                                                  tr("刀路已复制到剪贴板。"));
+                });
+    AddQuestion(grid, QStringLiteral("boxWithoutClose"), QString(), tr("必须回答"),
+                QStringLiteral("ShowWindowWithoutClose"), [this] {
+                    return CVelmarMessageBox::ShowWindowWithoutClose(window(), MsgBtnYes | MsgBtnNo, MsgIconPop3,
+                                                                     tr("急停已触发"), tr("机床是否处于安全状态？"));
+                });
+    auto* check = new GalleryTile(QStringLiteral("boxCheck"), QString(), tr("不再提醒"),
+                                  QStringLiteral("ShowWindowWithCheckBox"));
+    connect(check, &QPushButton::clicked, this, [page = QPointer<MessageBoxesPage>(this)] {
+        const std::pair<int, bool> answer =
+            CVelmarMessageBox::ShowWindowWithCheckBox(page->window(), MsgBtnOk | MsgBtnCancel, MsgIconPop5,
+                                                      tr("回原点"), tr("主轴将移动到机床原点。"), QString(), false, {});
+        if (page) {
+            page->ShowCode(answer.first, answer.second ? tr("，已勾选") : tr("，未勾选"));
+        }
+    });
+    grid->addWidget(check, grid->count() / Columns, grid->count() % Columns);
+    AddQuestion(grid, QStringLiteral("boxCenter"), QString(), tr("主窗口居中"),
+                QStringLiteral("ShowWindowScreenCenter"), [this] {
+                    return CVelmarMessageBox::ShowWindowScreenCenter(this, MsgBtnOk, MsgIconPop5, tr("提示"),
+                                                                     tr("扫描数据已导入。"));
+                });
+    AddQuestion(grid, QStringLiteral("boxOpenFolder"), QString(), tr("打开所在文件夹"),
+                QStringLiteral("ShowWindowAndOpenDir"), [this] {
+                    return CVelmarMessageBox::ShowWindowAndOpenDir(
+                        window(), QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
+                        tr("刀路文件已导出。"), MsgIconPop1, QString());
+                });
+    AddQuestion(grid, QStringLiteral("boxDiskSpace"), QString(), tr("磁盘空间不足"),
+                QStringLiteral("ShowDiskSpaceWindow"), [this] {
+                    CVelmarMessageBox::ShowDiskSpaceWindow(window(), tr("磁盘剩余空间不足 2 GB，扫描可能中断。"));
+                    return -1;
+                });
+    auto* stacked = new GalleryTile(QStringLiteral("boxStacked"), QString(), tr("框上再问"), tr("后开的框先结束"));
+    connect(stacked, &QPushButton::clicked, this, &MessageBoxesPage::RunStacked);
+    grid->addWidget(stacked, grid->count() / Columns, grid->count() % Columns);
+    AddCard(tr("入口"), tr("每个静态函数一个例子。"))->addLayout(grid);
+}
+
+void MessageBoxesPage::RunPreview()
+{
+    // A box that the host ends itself: it is built by hand, run, and let go when the work is done.
+    auto box = std::make_unique<CVelmarMessageBox>(window(), MsgBtnCancelPlain, MsgIconLoading, tr("正在计算"),
+                                                   tr("正在生成加工预览"), false, false,
+                                                   QMap<EnumMsgButtonFunction, QString>());
+    QPointer<CVelmarMessageBox> guard(box.get());
+    QPointer<MessageBoxesPage> page(this);
+    QTimer::singleShot(PreviewMs, box.get(), [guard] { guard->MsgExit(MsgBtnOk); });
+    const int code = box->MsgExec();
+    if (!guard) {
+        box.release();
+    }
+    if (page) {
+        ShowCode(code);
+    }
+}
+
+void MessageBoxesPage::RunStacked()
+{
+    // The first box asks again before it lets its answer through: the second one runs on top of it.
+    auto box = std::make_unique<CVelmarMessageBox>(window(), MsgBtnDeletePackage | MsgBtnCancelPlain, MsgIconPop3,
+                                                   tr("安装包"), tr("安装包占用 1.2 GB。"), false, false,
+                                                   QMap<EnumMsgButtonFunction, QString>());
+    QPointer<CVelmarMessageBox> guard(box.get());
+    QPointer<MessageBoxesPage> page(this);
+    int confirmed = 0;
+    connect(box.get(), &CVelmarMessageBox::SignalMessageBoxOperation, box.get(), [guard, &confirmed](int code) {
+        if (code == MsgBtnDeletePackage) {
+            confirmed = CVelmarMessageBox::ShowWindow(guard, MsgBtnYes | MsgBtnNo, MsgIconPop3, tr("再次确认"),
+                                                      tr("删除后需要重新下载，确定吗？"), {});
+        }
+    });
+    const int code = box->MsgExec();
+    if (!guard) {
+        box.release();
+    }
+    if (page) {
+        ShowCode(confirmed ? confirmed : code);
+    }
+}

@@ -1,0 +1,741 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US" sourcelanguage="zh_CN">
+<context>
+    <name>ButtonsPage</name>
+    <message>
+        <source>点击任意按钮，这里会显示它的名称。</source>
+        <translation>Click any button; its name is told here.</translation>
+    </message>
+    <message>
+        <source>刚才点击：%1</source>
+        <translation>Clicked last: %1</translation>
+    </message>
+    <message>
+        <source>图标</source>
+        <translation>Icon</translation>
+    </message>
+    <message>
+        <source>文字</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>图标与文字</source>
+        <translation>Icon and text</translation>
+    </message>
+    <message>
+        <source>图标与图片</source>
+        <translation>Icon and picture</translation>
+    </message>
+    <message>
+        <source>图标，可选中</source>
+        <translation>Icon, chooses</translation>
+    </message>
+    <message>
+        <source>文字，可选中</source>
+        <translation>Text, chooses</translation>
+    </message>
+    <message>
+        <source>图标与文字，可选中</source>
+        <translation>Icon and text, chooses</translation>
+    </message>
+    <message>
+        <source>图标与图片，可选中</source>
+        <translation>Icon and picture, chooses</translation>
+    </message>
+    <message>
+        <source>生成刀路</source>
+        <translation>Toolpath</translation>
+    </message>
+    <message>
+        <source>八种类型</source>
+        <translation>Eight types</translation>
+    </message>
+    <message>
+        <source>下面一行可以选中：再次点击取消选中。</source>
+        <translation>Those of the lower row can be chosen; another click takes it back.</translation>
+    </message>
+    <message>
+        <source>方料</source>
+        <translation>Block</translation>
+    </message>
+    <message>
+        <source>圆料</source>
+        <translation>Rod</translation>
+    </message>
+    <message>
+        <source>模型</source>
+        <translation>Model</translation>
+    </message>
+    <message>
+        <source>自适应</source>
+        <translation>Adaptive</translation>
+    </message>
+    <message>
+        <source>工具栏</source>
+        <translation>Tool row</translation>
+    </message>
+    <message>
+        <source>竖排的图标与文字，四选一。</source>
+        <translation>Icon over text, one of four.</translation>
+    </message>
+    <message>
+        <source>毛坯设置</source>
+        <translation>Stock</translation>
+    </message>
+    <message>
+        <source>刀具选择</source>
+        <translation>Tools</translation>
+    </message>
+    <message>
+        <source>刀路生成</source>
+        <translation>Toolpaths</translation>
+    </message>
+    <message>
+        <source>导航栏</source>
+        <translation>Navigation</translation>
+    </message>
+    <message>
+        <source>竖列的文字按钮，标出当前步骤。</source>
+        <translation>A column of texts that marks the current step.</translation>
+    </message>
+    <message>
+        <source>图标在左</source>
+        <translation>Icon left</translation>
+    </message>
+    <message>
+        <source>图标在右</source>
+        <translation>Icon right</translation>
+    </message>
+    <message>
+        <source>图标在上</source>
+        <translation>Icon on top</translation>
+    </message>
+    <message>
+        <source>开始</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>方向与图标位置</source>
+        <translation>Orientation and place of the icon</translation>
+    </message>
+    <message>
+        <source>单色</source>
+        <translation>Solid</translation>
+    </message>
+    <message>
+        <source>渐变</source>
+        <translation>Gradient</translation>
+    </message>
+    <message>
+        <source>竖直渐变</source>
+        <translation>Vertical gradient</translation>
+    </message>
+    <message>
+        <source>图片</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>背景</source>
+        <translation>Background</translation>
+    </message>
+    <message>
+        <source>木材</source>
+        <translation>Wood</translation>
+    </message>
+    <message>
+        <source>亚克力</source>
+        <translation>Acrylic</translation>
+    </message>
+    <message>
+        <source>铜</source>
+        <translation>Copper</translation>
+    </message>
+    <message>
+        <source>材料</source>
+        <translation>Material</translation>
+    </message>
+    <message>
+        <source>图片背景，选中时打勾。</source>
+        <translation>Image background; the chosen one is ticked.</translation>
+    </message>
+    <message>
+        <source>消息</source>
+        <translation>Messages</translation>
+    </message>
+    <message>
+        <source>气泡</source>
+        <translation>Bubble</translation>
+    </message>
+    <message>
+        <source>状态灯</source>
+        <translation>Lamp</translation>
+    </message>
+    <message>
+        <source>新消息</source>
+        <translation>New message</translation>
+    </message>
+    <message>
+        <source>气泡与状态灯</source>
+        <translation>Bubble and lamp</translation>
+    </message>
+    <message>
+        <source>打开消息后气泡消失。</source>
+        <translation>Reading the messages takes the bubble away.</translation>
+    </message>
+    <message>
+        <source>不可用</source>
+        <translation>Not available</translation>
+    </message>
+    <message>
+        <source>等待机床连接</source>
+        <translation>Waits for a machine</translation>
+    </message>
+    <message>
+        <source>禁用</source>
+        <translation>Disabled</translation>
+    </message>
+    <message>
+        <source>点击不会发出信号。</source>
+        <translation>A click sends no signal.</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryTitleBar</name>
+    <message>
+        <source>控件陈列室</source>
+        <translation>Gallery of controls</translation>
+    </message>
+</context>
+<context>
+    <name>LogPane</name>
+    <message>
+        <source>日志</source>
+        <translation>Log</translation>
+    </message>
+</context>
+<context>
+    <name>MachineConnector</name>
+    <message>
+        <source>该地址上的机床序列号是 %1，不是所选的 %2。</source>
+        <translation>The machine at this address has serial number %1, not %2 as chosen.</translation>
+    </message>
+    <message>
+        <source>连接失败</source>
+        <translation>Connection failed</translation>
+    </message>
+</context>
+<context>
+    <name>MachineDiscovery</name>
+    <message>
+        <source>无法在端口 %1 上监听：%2</source>
+        <translation>Cannot listen on port %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>MachinePage</name>
+    <message>
+        <source>列表中只显示 USB 机床</source>
+        <translation>List only machines on USB</translation>
+    </message>
+    <message>
+        <source>还没有连接机床。</source>
+        <translation>No machine is connected yet.</translation>
+    </message>
+    <message>
+        <source>网络连接</source>
+        <translation>Network</translation>
+    </message>
+    <message>
+        <source>以太网或 Wi-Fi：从列表选择，或指定 IP</source>
+        <translation>Ethernet or Wi-Fi: pick one, or type its IP</translation>
+    </message>
+    <message>
+        <source>标定连接</source>
+        <translation>Calibration</translation>
+    </message>
+    <message>
+        <source>USB Type-C：自动配置网卡后连接</source>
+        <translation>USB Type-C: sets up the adapter and connects</translation>
+    </message>
+    <message>
+        <source>打开连接面板</source>
+        <translation>Open the connection panel</translation>
+    </message>
+    <message>
+        <source>面板打开期间，在本机端口 %1 上接收机床的通告。</source>
+        <translation>While the panel is open, announcements of machines are received on this computer's port %1.</translation>
+    </message>
+    <message>
+        <source>断开机床</source>
+        <translation>Disconnect</translation>
+    </message>
+    <message>
+        <source>当前机床：%1，地址 %2</source>
+        <translation>Current machine: %1 at %2</translation>
+    </message>
+    <message>
+        <source>当前机床</source>
+        <translation>Current machine</translation>
+    </message>
+    <message>
+        <source>状态栏也会显示当前机床。</source>
+        <translation>The status line shows it too.</translation>
+    </message>
+    <message>
+        <source>以太网</source>
+        <translation>Ethernet</translation>
+    </message>
+    <message>
+        <source>优先级最高；机床固定在 192.168.7.2，面板自己完成连接。</source>
+        <translation>First choice; the machine stands at 192.168.7.2, and the panel connects it by itself.</translation>
+    </message>
+    <message>
+        <source>其次；同一台机床同时出现在 Wi-Fi 上时，保留以太网。</source>
+        <translation>Next; it is kept when the same machine is on Wi-Fi as well.</translation>
+    </message>
+    <message>
+        <source>最后；通告里没有写接口的机床也按 Wi-Fi 处理。</source>
+        <translation>Last; a machine that names no interface counts as Wi-Fi too.</translation>
+    </message>
+    <message>
+        <source>三条路</source>
+        <translation>Three roads</translation>
+    </message>
+    <message>
+        <source>一台机床一行，按接口的优先级保留一个地址。</source>
+        <translation>One row per machine, with the address of its best interface.</translation>
+    </message>
+    <message>
+        <source>已通过 USB 连接机床 %1，地址 %2</source>
+        <translation>Machine %1 at %2 connected over USB</translation>
+    </message>
+</context>
+<context>
+    <name>MachineQuery</name>
+    <message>
+        <source>机床在 5 秒内没有应答。</source>
+        <translation>The machine did not answer within 5 seconds.</translation>
+    </message>
+    <message>
+        <source>“%1”不是有效的地址。</source>
+        <translation>“%1” is not a valid address.</translation>
+    </message>
+    <message>
+        <source>机床报告错误：%1</source>
+        <translation>The machine reports an error: %1</translation>
+    </message>
+    <message>
+        <source>机床没有给出序列号。</source>
+        <translation>The machine gave no serial number.</translation>
+    </message>
+    <message>
+        <source>机床的应答无法识别。</source>
+        <translation>The machine's answer cannot be understood.</translation>
+    </message>
+    <message>
+        <source>机床没有答完就断开了连接。</source>
+        <translation>The machine closed the connection before its answer was complete.</translation>
+    </message>
+    <message>
+        <source>该地址上没有机床在等待连接。</source>
+        <translation>No machine waits for a connection at this address.</translation>
+    </message>
+    <message>
+        <source>网络错误：%1</source>
+        <translation>Network error: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MessageBoxesPage</name>
+    <message>
+        <source>点击一个例子，这里会显示返回值。</source>
+        <translation>Click an example; what it returns is told here.</translation>
+    </message>
+    <message>
+        <source>返回值：%1（%2）</source>
+        <translation>Returned: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>告知</source>
+        <translation>Tell</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Notice</translation>
+    </message>
+    <message>
+        <source>工程已保存。</source>
+        <translation>The project has been saved.</translation>
+    </message>
+    <message>
+        <source>询问</source>
+        <translation>Ask</translation>
+    </message>
+    <message>
+        <source>开始加工</source>
+        <translation>Start machining</translation>
+    </message>
+    <message>
+        <source>请确认毛坯已夹紧，主轴周围没有杂物。</source>
+        <translation>Make sure that the stock is clamped and the spindle is clear.</translation>
+    </message>
+    <message>
+        <source>警告</source>
+        <translation>Warn</translation>
+    </message>
+    <message>
+        <source>未保存的修改</source>
+        <translation>Unsaved changes</translation>
+    </message>
+    <message>
+        <source>关闭前要保存对“支架”的修改吗？</source>
+        <translation>Save the changes to “bracket” before closing?</translation>
+    </message>
+    <message>
+        <source>完成</source>
+        <translation>Done</translation>
+    </message>
+    <message>
+        <source>加工完成</source>
+        <translation>Machining finished</translation>
+    </message>
+    <message>
+        <source>用时 1 小时 24 分，请取下工件。</source>
+        <translation>It took 1 hour 24 minutes. Take the workpiece out.</translation>
+    </message>
+    <message>
+        <source>等待</source>
+        <translation>Wait</translation>
+    </message>
+    <message>
+        <source>长文本</source>
+        <translation>Long text</translation>
+    </message>
+    <message>
+        <source>超过 250 个字符，窗口随文字增高</source>
+        <translation>Over 250 characters; the box grows</translation>
+    </message>
+    <message>
+        <source>%1. 换刀之前请先停止主轴，等待冷却，再打开防护罩，最后核对刀库编号。</source>
+        <translation>%1. Before changing a tool, stop the spindle, let it cool, open the guard, and check the number in the magazine.</translation>
+    </message>
+    <message>
+        <source>换刀须知</source>
+        <translation>Changing tools</translation>
+    </message>
+    <message>
+        <source>图标</source>
+        <translation>Icons</translation>
+    </message>
+    <message>
+        <source>五种图标各用在它自然的场合。</source>
+        <translation>Each of the five icons where it belongs.</translation>
+    </message>
+    <message>
+        <source>自定义按钮文字</source>
+        <translation>Texts of its own</translation>
+    </message>
+    <message>
+        <source>刀具磨损</source>
+        <translation>Tool wear</translation>
+    </message>
+    <message>
+        <source>2 号刀具已使用 40 小时。</source>
+        <translation>Tool 2 has run for 40 hours.</translation>
+    </message>
+    <message>
+        <source>继续使用</source>
+        <translation>Keep using</translation>
+    </message>
+    <message>
+        <source>更换刀具</source>
+        <translation>Change tool</translation>
+    </message>
+    <message>
+        <source>升级</source>
+        <translation>Upgrade</translation>
+    </message>
+    <message>
+        <source>发现新版本</source>
+        <translation>New version</translation>
+    </message>
+    <message>
+        <source>新版本已下载完成，可以立即安装。</source>
+        <translation>The new version has been downloaded and can be installed now.</translation>
+    </message>
+    <message>
+        <source>两秒后消失</source>
+        <translation>Goes after two seconds</translation>
+    </message>
+    <message>
+        <source>刀路已复制到剪贴板。</source>
+        <translation>The toolpath has been copied to the clipboard.</translation>
+    </message>
+    <message>
+        <source>必须回答</source>
+        <translation>Must be answered</translation>
+    </message>
+    <message>
+        <source>急停已触发</source>
+        <translation>Emergency stop</translation>
+    </message>
+    <message>
+        <source>机床是否处于安全状态？</source>
+        <translation>Is the machine in a safe state?</translation>
+    </message>
+    <message>
+        <source>不再提醒</source>
+        <translation>Do not ask again</translation>
+    </message>
+    <message>
+        <source>回原点</source>
+        <translation>Go home</translation>
+    </message>
+    <message>
+        <source>主轴将移动到机床原点。</source>
+        <translation>The spindle will move to the machine's origin.</translation>
+    </message>
+    <message>
+        <source>，已勾选</source>
+        <translation>, ticked</translation>
+    </message>
+    <message>
+        <source>，未勾选</source>
+        <translation>, not ticked</translation>
+    </message>
+    <message>
+        <source>主窗口居中</source>
+        <translation>Centred on the window</translation>
+    </message>
+    <message>
+        <source>扫描数据已导入。</source>
+        <translation>The scan has been imported.</translation>
+    </message>
+    <message>
+        <source>打开所在文件夹</source>
+        <translation>Open the folder</translation>
+    </message>
+    <message>
+        <source>刀路文件已导出。</source>
+        <translation>The toolpath file has been exported.</translation>
+    </message>
+    <message>
+        <source>磁盘空间不足</source>
+        <translation>Low disk space</translation>
+    </message>
+    <message>
+        <source>磁盘剩余空间不足 2 GB，扫描可能中断。</source>
+        <translation>Less than 2 GB of disk space left; the scan may break off.</translation>
+    </message>
+    <message>
+        <source>加工前核对刀具</source>
+        <translation>Check the tools</translation>
+    </message>
+    <message>
+        <source>刀具确认</source>
+        <translation>Tools of this job</translation>
+    </message>
+    <message>
+        <source>框上再问</source>
+        <translation>Ask again on top</translation>
+    </message>
+    <message>
+        <source>后开的框先结束</source>
+        <translation>The box opened last ends first</translation>
+    </message>
+    <message>
+        <source>入口</source>
+        <translation>Entry points</translation>
+    </message>
+    <message>
+        <source>每个静态函数一个例子。</source>
+        <translation>An example for each static function.</translation>
+    </message>
+    <message>
+        <source>正在计算</source>
+        <translation>Computing</translation>
+    </message>
+    <message>
+        <source>正在生成加工预览</source>
+        <translation>Making the machining preview</translation>
+    </message>
+    <message>
+        <source>安装包</source>
+        <translation>Package</translation>
+    </message>
+    <message>
+        <source>安装包占用 1.2 GB。</source>
+        <translation>The package takes 1.2 GB.</translation>
+    </message>
+    <message>
+        <source>再次确认</source>
+        <translation>Are you sure?</translation>
+    </message>
+    <message>
+        <source>删除后需要重新下载，确定吗？</source>
+        <translation>It would have to be downloaded again. Delete it?</translation>
+    </message>
+</context>
+<context>
+    <name>PageRegistry</name>
+    <message>
+        <source>主题按钮</source>
+        <translation>Themed buttons</translation>
+    </message>
+    <message>
+        <source>八种类型的按钮，三种背景，可选中、可带气泡。</source>
+        <translation>Buttons of eight types on three backgrounds, that can be chosen and carry a bubble.</translation>
+    </message>
+    <message>
+        <source>消息框</source>
+        <translation>Message boxes</translation>
+    </message>
+    <message>
+        <source>一次调用即可提问，返回用户按下的按钮。</source>
+        <translation>A question in one call, which returns the button that the user pressed.</translation>
+    </message>
+    <message>
+        <source>连接机床</source>
+        <translation>Machine connection</translation>
+    </message>
+    <message>
+        <source>通过有线网络、无线网络或 USB Type-C 找到并连接机床。</source>
+        <translation>Finds and connects a machine over Ethernet, Wi-Fi or USB Type-C.</translation>
+    </message>
+    <message>
+        <source>进度对话框</source>
+        <translation>Progress dialogs</translation>
+    </message>
+    <message>
+        <source>长时间任务的进度：由程序给出，或自行缓慢前进。</source>
+        <translation>The progress of a long job, given by the program or creeping on its own.</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressPage</name>
+    <message>
+        <source>点击一个例子开始。</source>
+        <translation>Click an example to start.</translation>
+    </message>
+    <message>
+        <source>任务完成</source>
+        <translation>The job is done</translation>
+    </message>
+    <message>
+        <source>自动前进</source>
+        <translation>Creeps on its own</translation>
+    </message>
+    <message>
+        <source>CreateAutoWidget：任务不知道进度</source>
+        <translation>CreateAutoWidget: a job that knows no progress</translation>
+    </message>
+    <message>
+        <source>程序给出进度</source>
+        <translation>Driven by the program</translation>
+    </message>
+    <message>
+        <source>setValue：每一步报告一次</source>
+        <translation>setValue: told at each step</translation>
+    </message>
+    <message>
+        <source>分阶段提示</source>
+        <translation>Stages</translation>
+    </message>
+    <message>
+        <source>setStageText：过半后换一句话</source>
+        <translation>setStageText: another text past the middle</translation>
+    </message>
+    <message>
+        <source>可以取消</source>
+        <translation>Can be cancelled</translation>
+    </message>
+    <message>
+        <source>BindCloseButton：关闭前先询问</source>
+        <translation>BindCloseButton: asks before it closes</translation>
+    </message>
+    <message>
+        <source>长提示</source>
+        <translation>Long text</translation>
+    </message>
+    <message>
+        <source>文字换行，窗口随之增高</source>
+        <translation>The text wraps and the dialog grows</translation>
+    </message>
+    <message>
+        <source>例子</source>
+        <translation>Examples</translation>
+    </message>
+    <message>
+        <source>对话框打开时其余窗口不可操作，任务结束后自动关闭。</source>
+        <translation>A dialog blocks the other windows and goes when its job is done.</translation>
+    </message>
+    <message>
+        <source>正在运行：%1</source>
+        <translation>Running: %1</translation>
+    </message>
+    <message>
+        <source>正在分析模型</source>
+        <translation>Analysing the model</translation>
+    </message>
+    <message>
+        <source>打开模型</source>
+        <translation>Open model</translation>
+    </message>
+    <message>
+        <source>正在导出刀路</source>
+        <translation>Exporting toolpaths</translation>
+    </message>
+    <message>
+        <source>导出</source>
+        <translation>Export</translation>
+    </message>
+    <message>
+        <source>正在读取点云</source>
+        <translation>Reading the point cloud</translation>
+    </message>
+    <message>
+        <source>导入扫描数据</source>
+        <translation>Import scan</translation>
+    </message>
+    <message>
+        <source>正在重建表面</source>
+        <translation>Rebuilding the surface</translation>
+    </message>
+    <message>
+        <source>正在上传加工文件</source>
+        <translation>Uploading the job</translation>
+    </message>
+    <message>
+        <source>上传</source>
+        <translation>Upload</translation>
+    </message>
+    <message>
+        <source>确定要取消上传吗？</source>
+        <translation>Cancel the upload?</translation>
+    </message>
+    <message>
+        <source>已取消</source>
+        <translation>Cancelled</translation>
+    </message>
+    <message>
+        <source>正在把新的固件写入机床。写入期间请不要断开电源，也不要拔下数据线；机床会自行重新启动一次，指示灯变为绿色之后才可以继续操作</source>
+        <translation>Writing the new firmware to the machine. Do not switch it off or unplug the cable meanwhile; it restarts once by itself, and can be used again when its lamp is green</translation>
+    </message>
+    <message>
+        <source>升级固件</source>
+        <translation>Firmware upgrade</translation>
+    </message>
+</context>
+<context>
+    <name>StatusLine</name>
+    <message>
+        <source>已连接机床 %1，地址 %2</source>
+        <translation>Connected to machine %1 at %2</translation>
+    </message>
+    <message>
+        <source>未连接机床</source>
+        <translation>No machine connected</translation>
+    </message>
+</context>
+</TS>
