@@ -2,6 +2,7 @@
 
 #include <QIcon>
 #include <QPaintEvent>
+#include <QPixmapCache>
 #include <QResizeEvent>
 
 namespace {
@@ -19,11 +20,38 @@ QPixmap LoadBackground()
     return icon.pixmap(size, QIcon::Normal, QIcon::Off);
 }
 
+/** What @p make gives, from the pixmap cache when it is there: a box opens far more often than the image changes. */
+template <typename Make>
+QPixmap Cached(const QString& variant, Make make)
+{
+    const QString key = kBackgroundImage + variant;
+    QPixmap pixmap;
+    if (!QPixmapCache::find(key, &pixmap)) {
+        pixmap = make();
+        QPixmapCache::insert(key, pixmap);
+    }
+    return pixmap;
+}
+
+QPixmap OriginalBackground()
+{
+    return Cached(QString(), LoadBackground);
+}
+
+/** Always scaled from the image itself, never from a scaled one. */
+QPixmap ScaledBackground(const QSize& size)
+{
+    return Cached(QStringLiteral("?%1x%2").arg(size.width()).arg(size.height()), [&size] {
+        const QPixmap original = OriginalBackground();
+        return original.isNull() ? original : original.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    });
+}
+
 } // namespace
 
 CMsgBoxBackground::CMsgBoxBackground(QWidget* parent)
     : QWidget(parent)
-    , m_pixmapBackground(LoadBackground())
+    , m_pixmapBackground(OriginalBackground())
 {
     setAttribute(Qt::WA_StyledBackground);
 }
@@ -37,12 +65,7 @@ void CMsgBoxBackground::paintEvent(QPaintEvent* event)
 void CMsgBoxBackground::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    // Loaded again, so that scaling always starts from the image itself; decoding is shared through the pixmap cache.
-    m_pixmapBackground = LoadBackground();
-    if (m_pixmapBackground.isNull()) {
-        return;
-    }
     const qreal ratio = devicePixelRatioF();
     const QSize size(int((width() - kBorders) * ratio), int((height() - kBorders) * ratio));
-    m_pixmapBackground = m_pixmapBackground.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    m_pixmapBackground = ScaledBackground(size);
 }

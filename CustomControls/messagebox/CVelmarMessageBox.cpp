@@ -218,6 +218,12 @@ void CVelmarMessageBox::AddContentLabel(int width)
     m_pLabelContent->setContentsMargins(0, 0, 0, 0);
     m_pLabelContent->setIndent(0);
     m_pLabelContent->setText(m_strContent);
+    // Its height is fixed below, so no layout needs to ask for it by width: that would measure the text over and over.
+    // The policy comes after the polishing, which sets it anew.
+    m_pLabelContent->ensurePolished();
+    QSizePolicy policy = m_pLabelContent->sizePolicy();
+    policy.setHeightForWidth(false);
+    m_pLabelContent->setSizePolicy(policy);
     m_pLabelContent->adjustSize();
     m_pLabelContent->setFixedHeight(m_pLabelContent->height());
     ui->layoutContent->addWidget(m_pLabelContent, 1);
