@@ -17,7 +17,7 @@ constexpr FaultDescription kDescriptions[] = {
      "\"连接超时，请检查机床连接状态\" after 5 seconds"},
     {Fault::Close, "close", "closes the connection at once, without an answer",
      "the socket's own text, such as \"The remote host closed the connection\""},
-    {Fault::Split, "split", "answers in two pieces, a quarter of a second apart", "\"获取机床序列号失败\""},
+    {Fault::Split, "split", "answers in two pieces, half a second apart", "\"获取机床序列号失败\""},
     {Fault::Slow, "slow", "answers byte by byte", "\"获取机床序列号失败\""},
     {Fault::Garbage, "garbage", "answers bytes that are neither JSON nor UTF-8", "\"获取机床序列号失败\""},
     {Fault::Array, "array", "answers a JSON array instead of an object", "\"获取机床序列号失败\""},

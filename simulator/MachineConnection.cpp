@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int kSplitPauseMs = 250;
+constexpr int kSplitPauseMs = 500; // longer than a busy host may sleep between two reads
 constexpr int kSlowPauseMs = 20;
 constexpr int kLateMs = 6000; // a host waits for 5 seconds
 constexpr qint64 kHugeBytes = 100 * 1024 * 1024;

@@ -79,10 +79,11 @@ QString LastThree(const QString& serial)
     return serial.right(3);
 }
 
-// One question for a serial number, shared by its handlers. Socket and timer are children of the panel.
+// One question for a serial number, shared by its handlers. Socket and timer are children of the panel. The socket is
+// held by its base class: a connected socket still reports its end from the destructor of that base.
 struct SerialNumberQuery
 {
-    QPointer<QTcpSocket> socket;
+    QPointer<QAbstractSocket> socket;
     QPointer<QTimer> timer;
     bool emittedOnce = false;
     bool emitting = false;
@@ -107,6 +108,12 @@ CSelectMachineBox::CSelectMachineBox(QWidget* parent)
         disconnect(closeButton, nullptr, this, nullptr);
     }
     ui->setupUi(this);
+    // The outer layout of the panel's form: owned by the panel like that of the shell, which is the one in use.
+    auto* outerLayout = new QVBoxLayout;
+    outerLayout->setObjectName(QStringLiteral("verticalLayout"));
+    outerLayout->setSpacing(0);
+    outerLayout->setContentsMargins(0, 0, 0, 0);
+    static_cast<QObject*>(outerLayout)->setParent(this);
 
     SetBoxInfo(QStringLiteral(":/icon/lianjie 1.png"), tr("新建连接"), tr(""));
     SetChildUI(ui->central);
@@ -148,6 +155,9 @@ void CSelectMachineBox::InitWindow()
         ui->labelmg->setStyleSheet(PictureSheetEnglish);
         ui->btnSwitchConnect->setFixedWidth(SwitchWidthWide);
     }
+
+    // The strip's height is fixed: where a font is tall, the address line gives way and the buttons below stay whole.
+    ui->ipWidget->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
 
     ui->topWidget->hide();
     ui->ipDetail->hide();
@@ -491,12 +501,12 @@ void CSelectMachineBox::GetMachineSNViaTcp(QString& error, const QString& ip, un
         }
     };
 
-    connect(query->socket, &QTcpSocket::connected, this, [query] {
+    connect(query->socket, &QAbstractSocket::connected, this, [query] {
         CDebugLog::AddLog(QStringLiteral("GetMachineSNViaTcp - TCP连接已建立"));
         const QJsonObject request{{QStringLiteral("action"), QStringLiteral("GET_SN_FROM_3255")}};
         query->socket->write(QJsonDocument(request).toJson(QJsonDocument::Indented));
     });
-    connect(query->socket, &QTcpSocket::readyRead, this, [query, emitResult, &error] {
+    connect(query->socket, &QAbstractSocket::readyRead, this, [query, emitResult, &error] {
         if (!query->socket) {
             return;
         }
@@ -529,7 +539,7 @@ void CSelectMachineBox::GetMachineSNViaTcp(QString& error, const QString& ip, un
             query->socket->disconnectFromHost();
         }
     });
-    connect(query->socket, &QTcpSocket::errorOccurred, this, [query, emitResult] {
+    connect(query->socket, &QAbstractSocket::errorOccurred, this, [query, emitResult] {
         query->EndTimer();
         if (!query->socket) {
             return;
@@ -541,7 +551,7 @@ void CSelectMachineBox::GetMachineSNViaTcp(QString& error, const QString& ip, un
             query->socket->disconnectFromHost();
         }
     });
-    connect(query->socket, &QTcpSocket::disconnected, this, [query] {
+    connect(query->socket, &QAbstractSocket::disconnected, this, [query] {
         query->EndTimer();
         if (query->socket && !query->emitting) {
             query->socket->deleteLater();

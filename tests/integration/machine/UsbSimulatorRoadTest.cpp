@@ -12,9 +12,12 @@
 #include <QColor>
 #include <QElapsedTimer>
 #include <QLabel>
+#include <QLoggingCategory>
 #include <QPointer>
 #include <QPushButton>
 #include <QTimer>
+
+#include <algorithm>
 
 namespace {
 
@@ -43,6 +46,10 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
         if (event->type() == QEvent::Show && qobject_cast<CProgressWidget*>(watched)) {
+            if (m_bDeletesPanel) {
+                QMetaObject::invokeMethod(
+                    this, [this] { delete m_pPanel; }, Qt::QueuedConnection);
+            }
             m_bSawWaitDialog = static_cast<QWidget*>(watched)->windowModality() == Qt::ApplicationModal;
             for (const char* name : {"btnConfig", "btnCancel"}) {
                 m_bSawEnabledButton |= m_pPanel && m_pPanel->findChild<QPushButton*>(QLatin1String(name))->isEnabled();
@@ -54,6 +61,7 @@ public:
     QString m_strMessage;
     QString m_strTitle;
     int m_iMessages = 0;
+    bool m_bDeletesPanel = false;     ///< deletes the panel as soon as the wait dialog is there
     bool m_bSawWaitDialog = false;    ///< and it was application-modal
     bool m_bSawEnabledButton = false; ///< btnConfig or btnCancel was enabled during the wait
     QPointer<CSelectMachineBox> m_pPanel;
@@ -117,6 +125,7 @@ private Q_SLOTS:
     void aFaultIsToldInItsOwnWords_data();
     void aFaultIsToldInItsOwnWords();
     void aSoundMachineConnectsAtOnce();
+    void deletingThePanelMidwayEndsTheRoadQuietly();
 
 private:
     static bool Ip(const QStringList& arguments);
@@ -144,6 +153,8 @@ void UsbSimulatorRoadTest::initTestCase()
         QSKIP("runs in the namespaces of tests/support/machine-namespaces.sh only");
     }
     QVERIFY(!SimulatorProcess::Program().isEmpty());
+    // The debug stream has every answer in full, 100 MiB of it too.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
     NetworkConfigurator::SetProvider({});
     SetFtpConnectionProvider({});
 
@@ -325,6 +336,28 @@ void UsbSimulatorRoadTest::aSoundMachineConnectsAtOnce()
     QVERIFY2(AddressOfHost().startsWith(QStringLiteral("192.168.7.")), qPrintable(AddressOfHost()));
     QVERIFY(machine.WaitForLog(QStringLiteral("1 commands | ended: QUIT")));
     QVERIFY(machine.WaitForLog(QStringLiteral("\"data\":\"USB0000042\"")));
+}
+
+void UsbSimulatorRoadTest::deletingThePanelMidwayEndsTheRoadQuietly()
+{
+    SimulatorProcess machine;
+    QVERIFY2(StartMachine(machine, {"--fault", "silent"}), machine.Errors());
+    User user;
+    user.m_pPanel = m_pPanel;
+    user.m_bDeletesPanel = true;
+    // Not by the mouse: its release would be told to a button that is gone.
+    QMetaObject::invokeMethod(Child<QPushButton>("btnConfig"), "click", Qt::QueuedConnection);
+    QTRY_VERIFY(m_pPanel.isNull());
+    QVERIFY(user.m_bSawWaitDialog);
+    // The frame of the road returns with this loop, and nothing of it is left on the screen.
+    const auto isNothingOpen = [] {
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        return std::none_of(windows.begin(), windows.end(), [](const QWidget* window) { return window->isVisible(); });
+    };
+    QTRY_VERIFY(isNothingOpen());
+    QCOMPARE(user.m_iMessages, 0);
+    QVERIFY(m_listConnected.isEmpty());
+    QVERIFY(m_listRecorded.isEmpty());
 }
 
 CUSTOMCONTROLS_TEST_MAIN(UsbSimulatorRoadTest)

@@ -316,8 +316,8 @@ void MachineSimulatorTest::slowAnswersByteByByte()
     Host host;
     host.Ask(m_strAddress, machine.Port(), kRequest);
     QTRY_COMPARE(host.m_received, kAnswer);
-    QCOMPARE(host.m_firstPiece.size(), 1);
     // A busy computer may gather a few of them.
+    QVERIFY(host.m_firstPiece.size() < kAnswer.size());
     QVERIFY2(host.m_iPieces > 5, qPrintable(QString::number(host.m_iPieces)));
 }
 
@@ -439,6 +439,7 @@ void MachineSimulatorTest::announcesItselfAtOnceAndEverySecond()
     QUdpSocket listener;
     QVERIFY(listener.bind(QHostAddress::LocalHost, 0));
     QElapsedTimer clock;
+    clock.start();
     qint64 first = 0;
     QList<QByteArray> heard;
     connect(&listener, &QUdpSocket::readyRead, this, [&] {
@@ -453,7 +454,6 @@ void MachineSimulatorTest::announcesItselfAtOnceAndEverySecond()
     QVERIFY2(StartMachine(machine, {"--announce", "--announce-port", QString::number(listener.localPort()), "--model",
                                     "V2", "--interface", "eth0", "--announced-address", "10.1.2.3"}),
              machine.Errors());
-    clock.start();
     const QByteArray announcement = QStringLiteral("VELMAR*ABC123*V2*10.1.2.3*%1*eth0").arg(machine.Port()).toUtf8();
     // Sent before "ready" was printed, so it needs no second.
     QTRY_COMPARE_WITH_TIMEOUT(heard, QList<QByteArray>{announcement}, 900);

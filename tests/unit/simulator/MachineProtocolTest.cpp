@@ -154,9 +154,9 @@ void MachineProtocolTest::aSummaryStaysOnOneLine()
 {
     QCOMPARE(ExchangeLog::Summary("{\n}\r"), QStringLiteral("4 bytes {\\n}\\u000d"));
     QCOMPARE(ExchangeLog::Summary(QByteArray()), QStringLiteral("0 bytes "));
-    const QString cut = ExchangeLog::Summary(QByteArray(1000, 'x'));
-    QVERIFY(cut.startsWith(QStringLiteral("1000 bytes xxx")));
-    QVERIFY(cut.endsWith(QStringLiteral("x...")));
+    const QString cut = ExchangeLog::Summary(QByteArray(1000, 'a'));
+    QVERIFY(cut.startsWith(QStringLiteral("1000 bytes aaa")));
+    QVERIFY(cut.endsWith(QStringLiteral("a...")));
     QVERIFY(cut.size() < 120);
 }
 
