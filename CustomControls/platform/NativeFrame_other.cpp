@@ -82,6 +82,7 @@ public:
             return DoubleClick(*static_cast<QMouseEvent*>(event));
         case QEvent::MouseButtonRelease:
             m_bTitlePressed = false;
+            m_pressedEdges = {};
             return false;
         case QEvent::Leave:
         case QEvent::Hide:
@@ -117,12 +118,14 @@ private:
     bool Press(const QMouseEvent& event)
     {
         m_bTitlePressed = false;
+        m_pressedEdges = {};
         if (event.button() != Qt::LeftButton) {
             return false;
         }
         const FrameZone zone = ZoneOf(event);
         if (const Qt::Edges edges = EdgesOf(zone)) {
             ShowEdgeCursor({});
+            m_pressedEdges = edges;
             return m_pHandle->startSystemResize(edges);
         }
         if (zone == FrameZoneCaption) {
@@ -133,19 +136,24 @@ private:
         return false;
     }
 
-    // The move begins with the first real motion: begun at the press, it would swallow a double click.
+    // The move begins with the first real motion: begun at the press, it would swallow a double click. A motion that
+    // still arrives here says that the system has not taken the pointer yet, so it is asked again.
     bool Move(const QMouseEvent& event)
     {
-        if (m_bTitlePressed && event.buttons().testFlag(Qt::LeftButton)) {
-            const QPoint way = event.globalPosition().toPoint() - m_ptPress;
-            if (way.manhattanLength() < QGuiApplication::styleHints()->startDragDistance()) {
-                return false;
-            }
+        if (!event.buttons().testFlag(Qt::LeftButton)) {
             m_bTitlePressed = false;
-            return m_pHandle->startSystemMove();
+            m_pressedEdges = {};
+            if (event.buttons() == Qt::NoButton) {
+                ShowEdgeCursor(EdgesOf(ZoneOf(event)));
+            }
+            return false;
         }
-        if (event.buttons() == Qt::NoButton) {
-            ShowEdgeCursor(EdgesOf(ZoneOf(event)));
+        if (m_pressedEdges) {
+            return m_pHandle->startSystemResize(m_pressedEdges);
+        }
+        const QPoint way = event.globalPosition().toPoint() - m_ptPress;
+        if (m_bTitlePressed && way.manhattanLength() >= QGuiApplication::styleHints()->startDragDistance()) {
+            return m_pHandle->startSystemMove();
         }
         return false;
     }
@@ -178,7 +186,8 @@ private:
     QPointer<QWindow> m_pHandle;
     std::function<NativeFrame()> m_current;
     std::function<void()> m_titlePressed;
-    Qt::Edges m_edges;
+    Qt::Edges m_edges; // the cursor shows these
+    Qt::Edges m_pressedEdges;
     bool m_bTitlePressed = false;
     QPoint m_ptPress;
 };

@@ -3,7 +3,13 @@
 set -euo pipefail
 # No session bus: a test reaches nobody's desktop, and the bus library loses memory where it looks for a bus in vain.
 export DBUS_SESSION_BUS_ADDRESS=disabled:
-exec xvfb-run --auto-servernum --server-args="-screen 0 1600x1200x24 -nolisten tcp" \
-    bash -c 'openbox --sm-disable >/dev/null 2>&1 & wm=$!
-             for _ in $(seq 100); do xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q window && break; sleep 0.05; done
-             "$@"; code=$?; kill $wm 2>/dev/null; exit $code' with-display "$@"
+exec xvfb-run --auto-servernum --server-args="-screen 0 1600x1200x24 -nolisten tcp" bash -c '
+    ready=$(mktemp -u)
+    # Windows that appear while it starts are taken over without focus, so its own word that it is ready is waited for.
+    openbox --sm-disable --startup "touch $ready" >/dev/null 2>&1 & manager=$!
+    for _ in $(seq 200); do [ -e "$ready" ] && break; sleep 0.05; done
+    rm -f "$ready"
+    "$@"
+    code=$?
+    kill $manager 2>/dev/null
+    exit $code' with-display "$@"
