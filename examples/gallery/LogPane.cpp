@@ -46,8 +46,9 @@ LogPane::LogPane(QWidget* parent)
     layout->addWidget(title);
     layout->addWidget(m_pText, 1);
 
+    // Queued like the log's own lines below, so that both kinds stand in the order in which they came.
     connect(CorvaneSignalHelper::instance(), &CorvaneSignalHelper::signalFilePluginAppendLog, this,
-            &LogPane::AppendLine);
+            &LogPane::AppendLine, Qt::QueuedConnection);
     // Lines come from any thread and are handed over to the GUI thread, where this pane may have gone by then.
     CDebugLog::SetListener([pane = QPointer<LogPane>(this)](const QString& line) {
         const auto append = [pane, line] {

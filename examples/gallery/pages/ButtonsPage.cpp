@@ -134,7 +134,7 @@ void ButtonsPage::AddTypes()
             button->SetButtonImagePos(18, 0, 6, 0, 22, 44);
             button->SetButtonTextPos(0, 0, 18, 0, 76, 44);
         } else {
-            button->SetButtonImagePos(hasIcon ? 12 : 0, 0, 0, 0, 32, 32);
+            button->SetButtonImagePos(hasIcon ? 12 : 0, 0, hasIcon ? 12 : 0, 0, 32, 44);
             button->SetButtonTextPos(0, 0, 0, 0, 140, 44);
         }
         if (hasIcon) {

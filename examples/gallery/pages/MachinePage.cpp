@@ -56,6 +56,7 @@ MachinePage::MachinePage(const GalleryOptions& options)
                 disconnect->setEnabled(connected);
                 m_pOutcome->setText(connected ? tr("当前机床：%1，地址 %2").arg(serial, ip) : tr("还没有连接机床。"));
             });
+    BeginRow();
     AddCard(tr("当前机床"), tr("状态栏也会显示当前机床。"))->addWidget(disconnect);
 
     auto* roads = new QGridLayout;
@@ -72,11 +73,13 @@ MachinePage::MachinePage(const GalleryOptions& options)
         auto* text = new QLabel(texts[row]);
         text->setFont(FontCn_14);
         text->setStyleSheet(QStringLiteral("color:%1;").arg(QLatin1String(GalleryStyle::Ink)));
-        roads->addWidget(name, row, 0);
+        text->setWordWrap(true);
+        roads->addWidget(name, row, 0, Qt::AlignTop);
         roads->addWidget(text, row, 1);
     }
     roads->setColumnStretch(1, 1);
     AddCard(tr("三条路"), tr("一台机床一行，按接口的优先级保留一个地址。"))->addLayout(roads);
+    EndRow();
 
     // A connection over USB is made by the panel itself; this is how the host hears of it.
     connect(CorvaneSignalHelper::instance(), &CorvaneSignalHelper::signalConnectSuccessToFile, this,

@@ -122,13 +122,16 @@ void MessageBoxesPage::AddIcons()
     grid->addWidget(preview, grid->count() / Columns, grid->count() % Columns);
     AddQuestion(grid, QStringLiteral("boxLong"), QStringLiteral(":/icon/img_pop_5.png"), tr("长文本"),
                 tr("超过 250 个字符，窗口随文字增高"), [this] {
-                    QString text;
-                    for (int line = 1; line <= 12; ++line) {
-                        text += tr("%1. 换刀之前请先停止主轴，等待冷却，再打开防护罩，最后核对刀库编号。").arg(line) +
-                                QLatin1Char('\n');
-                    }
+                    const QStringList lines = {
+                        tr("1. 先按停止键，等主轴完全停下，再等待两分钟让刀具冷却；刚停下的刀具和夹头会烫手。"),
+                        tr("2. 打开防护罩，用吸尘器清掉刀具、夹头和刀库上的切屑，不要用压缩空气吹。"),
+                        tr("3. 一手托住刀具，一手用扳手松开夹头，把旧刀具放回刀库里它自己的位置。"),
+                        tr("4. 擦净新刀具的刀柄，插到夹头底部，再按规定的力矩拧紧；拧得过紧会损坏夹头。"),
+                        tr("5. 核对刀库编号与刀具列表一致，特别是直径相近的平底刀和球头刀。"),
+                        tr("6. 关上防护罩，回原点，执行一次对刀；对刀数据超出范围时请重新装夹。"),
+                        tr("7. 第一次切削时把进给倍率降到一半，确认声音和切屑正常后再恢复。")};
                     return CVelmarMessageBox::ShowWindow(window(), MsgBtnOk, MsgIconPop5, tr("换刀须知"),
-                                                         text.trimmed(), {});
+                                                         lines.join(QLatin1Char('\n')), {});
                 });
     AddCard(tr("图标"), tr("五种图标各用在它自然的场合。"))->addLayout(grid);
 }

@@ -80,7 +80,7 @@ TourGroup TourMessageBoxes(Tour* tour)
     steps.push_back(
         Open("boxLoading", QStringLiteral("正在计算"), QStringLiteral("正在生成加工预览.."), {MsgBtnCancelPlain}));
     steps.push_back({QStringLiteral("the host ends the box"), {}, Answered(Returned(MsgBtnOk))});
-    steps.push_back(Open("boxLong", QStringLiteral("换刀须知"), QStringLiteral("1. 换刀之前"), {MsgBtnOk}, [] {
+    steps.push_back(Open("boxLong", QStringLiteral("换刀须知"), QStringLiteral("1. 先按停止键"), {MsgBtnOk}, [] {
         return True(Box() && Box()->height() > 300, QStringLiteral("the box has not grown with its text"));
     }));
     steps.push_back(Answer(MsgBtnOk));

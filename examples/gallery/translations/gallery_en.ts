@@ -417,10 +417,6 @@
         <translation>Over 250 characters; the box grows</translation>
     </message>
     <message>
-        <source>%1. 换刀之前请先停止主轴，等待冷却，再打开防护罩，最后核对刀库编号。</source>
-        <translation>%1. Before changing a tool, stop the spindle, let it cool, open the guard, and check the number in the magazine.</translation>
-    </message>
-    <message>
         <source>换刀须知</source>
         <translation>Changing tools</translation>
     </message>
@@ -529,14 +525,6 @@
         <translation>Less than 2 GB of disk space left; the scan may break off.</translation>
     </message>
     <message>
-        <source>加工前核对刀具</source>
-        <translation>Check the tools</translation>
-    </message>
-    <message>
-        <source>刀具确认</source>
-        <translation>Tools of this job</translation>
-    </message>
-    <message>
         <source>框上再问</source>
         <translation>Ask again on top</translation>
     </message>
@@ -575,6 +563,34 @@
     <message>
         <source>删除后需要重新下载，确定吗？</source>
         <translation>It would have to be downloaded again. Delete it?</translation>
+    </message>
+    <message>
+        <source>1. 先按停止键，等主轴完全停下，再等待两分钟让刀具冷却；刚停下的刀具和夹头会烫手。</source>
+        <translation>1. Press stop, wait until the spindle stands still, and let the tool cool for two minutes; tool and collet are hot at first.</translation>
+    </message>
+    <message>
+        <source>2. 打开防护罩，用吸尘器清掉刀具、夹头和刀库上的切屑，不要用压缩空气吹。</source>
+        <translation>2. Open the guard and vacuum the chips off tool, collet and magazine. Do not blow them away.</translation>
+    </message>
+    <message>
+        <source>3. 一手托住刀具，一手用扳手松开夹头，把旧刀具放回刀库里它自己的位置。</source>
+        <translation>3. Hold the tool with one hand, loosen the collet with the other, and put the tool back in its own place of the magazine.</translation>
+    </message>
+    <message>
+        <source>4. 擦净新刀具的刀柄，插到夹头底部，再按规定的力矩拧紧；拧得过紧会损坏夹头。</source>
+        <translation>4. Wipe the new tool's shank, insert it fully, and tighten to the given torque; more than that damages the collet.</translation>
+    </message>
+    <message>
+        <source>5. 核对刀库编号与刀具列表一致，特别是直径相近的平底刀和球头刀。</source>
+        <translation>5. Compare the magazine's numbers with the tool list, above all for flat and ball-nose mills of similar diameter.</translation>
+    </message>
+    <message>
+        <source>6. 关上防护罩，回原点，执行一次对刀；对刀数据超出范围时请重新装夹。</source>
+        <translation>6. Close the guard, go home and measure the tool; clamp it anew when the result is out of range.</translation>
+    </message>
+    <message>
+        <source>7. 第一次切削时把进给倍率降到一半，确认声音和切屑正常后再恢复。</source>
+        <translation>7. Halve the feed for the first cut, and restore it once sound and chips are right.</translation>
     </message>
 </context>
 <context>
