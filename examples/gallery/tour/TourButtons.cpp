@@ -85,11 +85,8 @@ TourGroup TourButtons(Tour*)
     }
     for (const char* name :
          {"ButtonTypeIconChoose", "ButtonTypeTextChoose", "ButtonTypeIconTextChoose", "ButtonTypeIconImageChoose"}) {
-        const bool fills = qstrcmp(name, "ButtonTypeIconTextChoose") != 0;
-        steps.push_back(Click(QStringLiteral("choose ") + QLatin1String(name), name, [name, fills] {
-            // Icon and text together have no chosen fill of their own: their state is read, the others' is seen.
-            return IsChosen(name, true) + (fills ? HasFill(name, ChosenColor) : QString());
-        }));
+        steps.push_back(Click(QStringLiteral("choose ") + QLatin1String(name), name,
+                              [name] { return IsChosen(name, true) + HasFill(name, ChosenColor); }));
     }
     steps.push_back(Click(QStringLiteral("choose again to take it back"), "ButtonTypeTextChoose",
                           [] { return IsChosen("ButtonTypeTextChoose", false); }));
