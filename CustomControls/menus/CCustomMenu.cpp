@@ -1,0 +1,549 @@
+#include <CustomControls/menus/CCustomMenu.h>
+
+#include "ui_CCustomMenu.h"
+
+#include <CustomControls/menus/CCustomMenuItem.h>
+
+#include <CorvaneBase/CorvaneFonts.h>
+#include <CorvaneBase/CorvaneTextHelper.h>
+
+#include <QCursor>
+#include <QEvent>
+#include <QFontMetrics>
+#include <QPointer>
+#include <QSet>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+constexpr int kRowStretch = 1;
+constexpr int kSubMenuRowStretch = 4;
+
+// A host that marks rows with this property sizes its menu by them, with flatter separators.
+constexpr char kRowShown[] = "show";
+constexpr int kFlatSplitHeight = 9;
+
+constexpr int kLineMargin = 16;
+constexpr int kLineTop = 6;
+constexpr int kLineHeight = 1;
+
+constexpr int kSubMenuOverlap = 1;
+// The last pixels of a row already lead to its sub-menu.
+constexpr int kSubMenuReach = 10;
+
+const QString kRowName = QStringLiteral("Button");
+const QString kSubMenuRowName = QStringLiteral("SubButton");
+const QString kSubMenuName = QStringLiteral("SubMenu");
+
+const QString kFlatPanel =
+    QStringLiteral("QWidget#m_widgetMenu{background-color:#F5F5F5;border:none;border-radius:2px;}");
+const QString kDarkPanel =
+    QStringLiteral("QWidget#m_widgetMenu{background-color:#181818;border:1px solid #2d2d2d;border-radius:4px;}");
+const QString kWhitePanel =
+    QStringLiteral("QWidget#m_widgetMenu{background-color:#FFFFFF;border:1px solid #a1a1a1;border-radius:4px;}");
+const QString kSplitSheet = QStringLiteral("background:transparent;");
+const QString kLineSheet = QStringLiteral("background:#535557;");
+
+int WidgetSize(qint64 pixels)
+{
+    return int(std::clamp<qint64>(pixels, 0, QWIDGETSIZE_MAX));
+}
+
+// Whether a row or separator itself is enabled, whatever the menu or its window is.
+bool IsPresent(const QWidget* entry)
+{
+    return entry->isEnabledTo(entry->parentWidget());
+}
+
+} // namespace
+
+CCustomMenu::CCustomMenu(QWidget* parent)
+    : QWidget(parent)
+    , ui(new Ui::CCustomMenu)
+{
+    ui->setupUi(this);
+    setFocusPolicy(Qt::ClickFocus);
+    setFont(CorvaneTextHelper::instance()->AppInChineseEnvironment() ? FontCnMedium_14 : FontCnMedium_13);
+}
+
+CCustomMenu::~CCustomMenu()
+{
+    // Rows and separators go after this object's own fields and must not report to them any more.
+    for (CCustomMenuItem* row : std::as_const(m_listButtons)) {
+        row->disconnect(this);
+    }
+    for (QWidget* line : std::as_const(m_listSplitLines)) {
+        line->disconnect(this);
+    }
+    QList<QPointer<CCustomMenu>> subMenus;
+    for (CCustomMenu* subMenu : std::as_const(m_hashSubMenus)) {
+        subMenu->disconnect(this);
+        subMenu->m_pParentMenu = nullptr;
+        subMenus.append(subMenu);
+    }
+    const QPointer<CCustomMenu> open(m_pOpenSubMenu);
+    m_hashSubMenus.clear();
+    m_pOpenSubMenu = nullptr;
+    if (open) {
+        open->hide();
+    }
+    // Without a parent nobody else would end a sub-menu.
+    for (const QPointer<CCustomMenu>& subMenu : std::as_const(subMenus)) {
+        if (subMenu && !subMenu->parent()) {
+            delete subMenu;
+        }
+    }
+    delete ui;
+}
+
+void CCustomMenu::SetWindowWidth(int width)
+{
+    m_iWidth = width;
+}
+
+void CCustomMenu::SetWindowHeight(int height)
+{
+    m_iItemHeight = height;
+}
+
+void CCustomMenu::SetMenuStyle(MenuStyle style)
+{
+    m_eMenuStyle = style;
+    switch (style) {
+    case MenuStyleFlat:
+        ui->m_widgetMenu->setStyleSheet(kFlatPanel);
+        break;
+    case MenuStyleDark:
+        ui->m_widgetMenu->setStyleSheet(kDarkPanel);
+        break;
+    case MenuStyleWhite:
+        ui->m_widgetMenu->setStyleSheet(kWhitePanel);
+        break;
+    default:
+        return;
+    }
+    for (CCustomMenuItem* row : std::as_const(m_listButtons)) {
+        row->SetMenuStyle(style);
+    }
+}
+
+void CCustomMenu::AddMenuItem(const QString& text, const QString& shortcut, const QString& icon,
+                              const QString& iconHover, const QString& iconDisabled)
+{
+    AddRow(text, shortcut, icon, iconHover, iconDisabled, false);
+}
+
+void CCustomMenu::AddMenuItem(int id, QString text, const QString& shortcut, const QString& icon,
+                              const QString& iconHover)
+{
+    AddRow(text, shortcut, icon, iconHover, QString(), false)->SetButtonId(id);
+}
+
+CCustomMenu* CCustomMenu::AddButtonWithSubMenu(const QString& text, const QString& shortcut, const QString& icon,
+                                               const QString& iconHover, const QString& iconDisabled)
+{
+    CCustomMenuItem* row = AddRow(text, shortcut, icon, iconHover, iconDisabled, true);
+    auto* subMenu = new CCustomMenu(parentWidget());
+    subMenu->m_pParentMenu = this;
+    subMenu->hide();
+    m_hashSubMenus.insert(row, subMenu);
+    subMenu->installEventFilter(this);
+    subMenu->setObjectName(kSubMenuName);
+    connect(subMenu, &QObject::destroyed, this, [this, subMenu] { SubMenuGone(subMenu); });
+    return subMenu;
+}
+
+QWidget* CCustomMenu::AddSplitLine()
+{
+    auto* split = new QWidget;
+    const int width = WidgetSize(m_iWidth);
+    split->setFixedSize(width, m_iSplitHeight);
+    split->setStyleSheet(kSplitSheet);
+    auto* line = new QWidget(split);
+    line->setGeometry(kLineMargin, kLineTop, width - 2 * kLineMargin, kLineHeight);
+    line->setStyleSheet(kLineSheet);
+
+    connect(split, &QObject::destroyed, this, [this, split] { SplitLineGone(split); });
+    m_listSplitLines.append(split);
+    LayOutLater();
+    ui->m_layoutWidgetMenu->addWidget(split, 0);
+    ++m_iSplitCount;
+    RefreshSize();
+    return split;
+}
+
+void CCustomMenu::SetMenuText(int index, const QString& text)
+{
+    if (CCustomMenuItem* row = MenuButton(index)) {
+        row->SetText(text);
+    }
+}
+
+void CCustomMenu::SetMenuTextWithId(int id, const QString& text)
+{
+    if (CCustomMenuItem* row = MenuButtonById(id)) {
+        row->SetText(text);
+    }
+}
+
+void CCustomMenu::UpdateItemSize()
+{
+    if (m_listButtons.isEmpty()) {
+        return;
+    }
+    int widest = 0;
+    for (CCustomMenuItem* row : std::as_const(m_listButtons)) {
+        widest = std::max(widest, row->SetItemSize(m_iWidth, m_iItemHeight, m_iMaxTextWidth, m_iMaxShortcutWidth));
+    }
+    const QMargins margins = ui->m_layoutWidgetMenu->contentsMargins();
+    m_iWidth = std::max(m_iWidth, WidgetSize(qint64(widest) + margins.left() + margins.right()));
+    setFixedWidth(WidgetSize(m_iWidth));
+}
+
+void CCustomMenu::UpdateMenuSize()
+{
+    const auto count = std::count_if(m_listButtons.cbegin(), m_listButtons.cend(),
+                                     [](const CCustomMenuItem* row) { return row->property(kRowShown).toBool(); });
+    setFixedSize(WidgetSize(m_iWidth), HeightOf(kFlatSplitHeight, int(count)));
+}
+
+void CCustomMenu::RefreshSize()
+{
+    setFixedSize(WidgetSize(m_iWidth), HeightOf(m_iSplitHeight, m_iButtonCount));
+}
+
+CCustomMenuItem* CCustomMenu::MenuButton(int index)
+{
+    return index >= 0 && index < m_listButtons.size() ? m_listButtons.at(index) : nullptr;
+}
+
+CCustomMenuItem* CCustomMenu::MenuButtonById(int id)
+{
+    const auto row = std::find_if(m_listButtons.cbegin(), m_listButtons.cend(),
+                                  [id](const CCustomMenuItem* candidate) { return candidate->GetButtonId() == id; });
+    return row == m_listButtons.cend() ? nullptr : *row;
+}
+
+int CCustomMenu::GetButtonIndex(CCustomMenuItem* item)
+{
+    return int(m_listButtons.indexOf(item));
+}
+
+int CCustomMenu::MenuButtonCount()
+{
+    return int(m_listButtons.size());
+}
+
+void CCustomMenu::RemoveMenuButton(int index)
+{
+    if (CCustomMenuItem* row = MenuButton(index)) {
+        m_listButtons.removeAt(index);
+        delete row;
+        --m_iButtonCount;
+        RefreshSize();
+    }
+}
+
+void CCustomMenu::RemoveAllMenuButtons()
+{
+    const QList<CCustomMenuItem*> rows = std::exchange(m_listButtons, {});
+    const QList<QWidget*> lines = std::exchange(m_listSplitLines, {});
+    m_iButtonCount = 0;
+    m_iSplitCount = 0;
+    qDeleteAll(rows);
+    qDeleteAll(lines);
+    RefreshSize();
+}
+
+void CCustomMenu::SetTextAlignment(QFlags<Qt::AlignmentFlag> alignment)
+{
+    Q_UNUSED(alignment)
+}
+
+void CCustomMenu::HideMenuBtn(const QList<QString>& texts)
+{
+    const QSet<QString> wanted(texts.cbegin(), texts.cend());
+    // By index: a chosen row that is hidden says so, and whoever hears it may remove rows.
+    for (int index = 0; index < m_listButtons.size(); ++index) {
+        CCustomMenuItem* row = m_listButtons.at(index);
+        if (IsPresent(row) && wanted.contains(row->text())) {
+            row->SetEnabled(false);
+            row->hide();
+            --m_iButtonCount;
+        }
+    }
+    RefreshSize();
+}
+
+void CCustomMenu::ShowMenuBtn(const QList<QString>& texts)
+{
+    const QSet<QString> wanted(texts.cbegin(), texts.cend());
+    for (CCustomMenuItem* row : std::as_const(m_listButtons)) {
+        if (!IsPresent(row) && wanted.contains(row->text())) {
+            row->SetEnabled(true);
+            row->show();
+            ++m_iButtonCount;
+        }
+    }
+    RefreshSize();
+}
+
+void CCustomMenu::HideSplitLine(int index)
+{
+    QWidget* line = m_listSplitLines.value(index);
+    if (line && IsPresent(line)) {
+        line->hide();
+        line->setEnabled(false);
+        --m_iSplitCount;
+        RefreshSize();
+    }
+}
+
+void CCustomMenu::ShowSplitLine(int index)
+{
+    QWidget* line = m_listSplitLines.value(index);
+    if (line && !IsPresent(line)) {
+        line->show();
+        line->setEnabled(true);
+        ++m_iSplitCount;
+        RefreshSize();
+    }
+}
+
+CCustomMenu* CCustomMenu::GetCustomMenu(CCustomMenuItem* item) const
+{
+    return m_hashSubMenus.value(item);
+}
+
+QList<CCustomMenu*> CCustomMenu::GetCustomMenus() const
+{
+    return m_hashSubMenus.values();
+}
+
+bool CCustomMenu::HasFocus()
+{
+    return hasFocus() || std::any_of(m_hashSubMenus.cbegin(), m_hashSubMenus.cend(),
+                                     [](const CCustomMenu* subMenu) { return subMenu->hasFocus(); });
+}
+
+void CCustomMenu::SetEnabled(int id, bool enabled)
+{
+    for (CCustomMenuItem* row : std::as_const(m_listButtons)) {
+        if (row->GetButtonId() == id) {
+            row->SetEnabled(enabled);
+        }
+    }
+}
+
+bool CCustomMenu::eventFilter(QObject* obj, QEvent* event)
+{
+    const QEvent::Type type = event->type();
+    if (type != QEvent::Enter && type != QEvent::Leave && type != QEvent::Hide) {
+        return QWidget::eventFilter(obj, event);
+    }
+    auto* row = qobject_cast<CCustomMenuItem*>(obj);
+    const bool opensSubMenu = row && row->objectName() == kSubMenuRowName;
+    if (!row || (!opensSubMenu && row->objectName() != kRowName)) {
+        return QWidget::eventFilter(obj, event);
+    }
+
+    // Whatever happens here is heard by the host, who may delete the row or the menu.
+    const QPointer<CCustomMenu> self(this);
+    const QPointer<CCustomMenuItem> item(row);
+    if (type == QEvent::Enter && m_pCurrentItem) {
+        m_pCurrentItem->SetChooseFocus(false);
+        if (!self || !item) {
+            return true;
+        }
+    }
+    CCustomMenu* subMenu = opensSubMenu ? GetCustomMenu(row) : nullptr;
+    if (type == QEvent::Enter) {
+        if (!opensSubMenu && m_pOpenSubMenu) {
+            std::exchange(m_pOpenSubMenu, nullptr)->hide();
+        } else if (subMenu && row->isEnabled()) {
+            OpenSubMenu(row, subMenu);
+        }
+    } else if (subMenu && (type == QEvent::Hide || !CursorLeftTowardsSubMenu(row))) {
+        CloseSubMenu(row, subMenu);
+    }
+    return self && item ? QWidget::eventFilter(obj, event) : true;
+}
+
+void CCustomMenu::showEvent(QShowEvent* event)
+{
+    Q_EMIT SignalShow();
+    QWidget::showEvent(event);
+}
+
+CCustomMenuItem* CCustomMenu::AddRow(const QString& text, const QString& shortcut, const QString& icon,
+                                     const QString& iconHover, const QString& iconDisabled, bool hasSubMenu)
+{
+    // Made where the layout would put it anyway: to move a row with its labels costs as much as to make it.
+    auto* row = new CCustomMenuItem(ui->m_widgetMenu, text, shortcut, icon, iconHover, iconDisabled, hasSubMenu);
+    // A sub-menu outlives its row; what was known of a row that once lay at the same address is not this one's.
+    if (CCustomMenu* stale = m_hashSubMenus.take(row)) {
+        stale->m_pParentMenu = nullptr;
+    }
+    if (!hasSubMenu) {
+        connect(row, &CCustomMenuItem::SignalMenuItemClicked, this, [this, row] { ItemClicked(row); });
+    }
+    connect(row, &CCustomMenuItem::SignalFocusChanged, this, [this, row](bool focus) { ItemFocusChanged(row, focus); });
+    connect(row, &QObject::destroyed, this, [this, row] { ItemGone(row); });
+    row->setObjectName(hasSubMenu ? kSubMenuRowName : kRowName);
+    row->installEventFilter(this);
+
+    row->setFont(font()); // a parent that wears a sheet hands no font down
+    const QFontMetrics metrics(row->font());
+    m_iMaxTextWidth = std::max(m_iMaxTextWidth, metrics.horizontalAdvance(text));
+    m_iMaxShortcutWidth = std::max(m_iMaxShortcutWidth, metrics.horizontalAdvance(shortcut));
+    row->SetMenuStyle(m_eMenuStyle);
+
+    LayOutLater();
+    ui->m_layoutWidgetMenu->addWidget(row, hasSubMenu ? kSubMenuRowStretch : kRowStretch);
+    m_listButtons.append(row);
+    ++m_iButtonCount;
+    RefreshSize();
+    return row;
+}
+
+void CCustomMenu::ItemClicked(CCustomMenuItem* item)
+{
+    if (item->IsStateButton()) {
+        return;
+    }
+    QPointer<CCustomMenu> root(this);
+    hide();
+    while (root && root->m_pParentMenu) {
+        root = root->m_pParentMenu;
+        root->hide();
+    }
+    if (root) {
+        Q_EMIT root->SignalItemClicked();
+    }
+}
+
+void CCustomMenu::ItemFocusChanged(CCustomMenuItem* item, bool focus)
+{
+    if (!focus) {
+        if (m_pCurrentItem == item) {
+            m_pCurrentItem = nullptr;
+        }
+        return;
+    }
+    const QPointer<CCustomMenu> self(this);
+    const QPointer<CCustomMenuItem> chosen(item);
+    if (m_pCurrentItem) {
+        m_pCurrentItem->SetChooseFocus(false);
+    }
+    if (self && chosen) {
+        m_pCurrentItem = item;
+    }
+}
+
+void CCustomMenu::ItemGone(CCustomMenuItem* item)
+{
+    if (m_pCurrentItem == item) {
+        m_pCurrentItem = nullptr;
+    }
+    if (m_listButtons.removeOne(item)) {
+        --m_iButtonCount;
+        RefreshSizeLater();
+    }
+}
+
+void CCustomMenu::SplitLineGone(QWidget* line)
+{
+    if (m_listSplitLines.removeOne(line)) {
+        m_iSplitCount = int(std::count_if(m_listSplitLines.cbegin(), m_listSplitLines.cend(), IsPresent));
+        RefreshSizeLater();
+    }
+}
+
+void CCustomMenu::RefreshSizeLater()
+{
+    // The layout still holds an entry that is just being deleted, and must not be asked for its size.
+    QMetaObject::invokeMethod(this, &CCustomMenu::RefreshSize, Qt::QueuedConnection);
+}
+
+void CCustomMenu::SubMenuGone(CCustomMenu* subMenu)
+{
+    if (m_pOpenSubMenu == subMenu) {
+        m_pOpenSubMenu = nullptr;
+    }
+    m_hashSubMenus.removeIf([subMenu](const auto& entry) { return entry.value() == subMenu; });
+}
+
+void CCustomMenu::OpenSubMenu(CCustomMenuItem* item, CCustomMenu* subMenu)
+{
+    const QPointer<CCustomMenu> self(this);
+    const QPointer<CCustomMenuItem> row(item);
+    const QPointer<CCustomMenu> opening(subMenu);
+    item->SetChooseFocus(true);
+    if (!self || !row || !opening) {
+        return;
+    }
+    const int top = ui->m_layoutWidgetMenu->contentsMargins().top();
+    subMenu->move(x() + m_iWidth - kSubMenuOverlap, y() - top + item->y());
+    subMenu->raise();
+    if (m_pOpenSubMenu == subMenu) {
+        return;
+    }
+    if (m_pOpenSubMenu) {
+        m_pOpenSubMenu->hide();
+    }
+    if (self && opening) {
+        m_pOpenSubMenu = subMenu;
+        subMenu->show();
+    }
+}
+
+void CCustomMenu::CloseSubMenu(CCustomMenuItem* item, CCustomMenu* subMenu)
+{
+    const QPointer<CCustomMenu> self(this);
+    const QPointer<CCustomMenu> closing(subMenu);
+    item->SetChooseFocus(false);
+    if (closing) {
+        closing->hide();
+    }
+    if (self) {
+        m_pOpenSubMenu = nullptr;
+    }
+}
+
+bool CCustomMenu::CursorLeftTowardsSubMenu(const CCustomMenuItem* item) const
+{
+    const QPoint cursor = mapFromGlobal(QCursor::pos());
+    const QRect row = item->geometry();
+    return cursor.x() - row.x() - row.width() >= -kSubMenuReach && cursor.y() >= row.top() &&
+           cursor.y() <= row.bottom();
+}
+
+void CCustomMenu::LayOutLater()
+{
+    if (!isVisible()) {
+        return;
+    }
+    // On the screen each new row would lay out all the others, once when the menu grows and once when the toolkit shows
+    // the row in the next turn of the event loop. One layout after the last of them leads to the same.
+    ++m_iWaitingLayouts;
+    ui->m_layoutWidgetMenu->setEnabled(false);
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (--m_iWaitingLayouts == 0) {
+                ui->m_layoutWidgetMenu->setEnabled(true);
+                ui->m_layoutWidgetMenu->invalidate();
+                ui->m_layoutWidgetMenu->activate();
+            }
+        },
+        Qt::QueuedConnection);
+}
+
+int CCustomMenu::HeightOf(int splitHeight, int rows) const
+{
+    const QMargins margins = ui->m_layoutWidgetMenu->contentsMargins();
+    return WidgetSize(qint64(splitHeight) * m_iSplitCount + qint64(m_iItemHeight) * rows + margins.top() +
+                      margins.bottom());
+}
