@@ -1,0 +1,31 @@
+#pragma once
+
+#include <CustomControls/CustomControlsGlobal.h>
+
+#include <QTabBar>
+
+/**
+ * The tabs of a CTabWidget: 30 pixels high, the current one with a green caption and a bottom line in the colour of the
+ * page, so that both merge. Tabs that begin beyond the right edge are not painted.
+ *
+ * CTabWidget makes its own; a host rarely does. Owned by its parent.
+ *
+ * @code
+ * auto* tabs = new CTabBar(this);
+ * tabs->addTab(tr("开始"));
+ * @endcode
+ */
+class CUSTOMCONTROLS_EXPORT CTabBar : public QTabBar
+{
+    Q_OBJECT
+
+public:
+    explicit CTabBar(QWidget* parent);
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    /** As wide as the caption needs in bold, whatever the bar's own font, so that no tab grows when it is chosen. */
+    QSize tabSizeHint(int index) const override;
+};

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <CustomControls/CustomControlsGlobal.h>
+
+#include <QList>
+#include <QPointer>
+#include <QToolBar>
+
+class CToolButton;
+class QToolButton;
+
+/**
+ * A tool bar of a fixed height with a painted frame: a line below, separators to its neighbours in the row, and the
+ * text of the dynamic property "GroupName" centred along its bottom edge. It opens no context menu.
+ *
+ * For the ribbon use CToolBarItem, which fills itself. Owned by its parent. Brings a CToolBarStyle of its own.
+ *
+ * @code
+ * auto* bar = new CToolBar(CToolBar::ToolBarModeSlim, window);
+ * bar->addAction(tr("撤销"));
+ * window->addToolBar(bar);
+ * @endcode
+ */
+class CUSTOMCONTROLS_EXPORT CToolBar : public QToolBar
+{
+    Q_OBJECT
+
+public:
+    enum EnumToolBarMode
+    {
+        ToolBarModeSlim = 0, ///< 41 pixels high
+        ToolBarModeBlock = 1 ///< 78 pixels high, with room for captions and a group caption
+    };
+
+    /** @param mode gives the height; any value but ToolBarModeBlock counts as ToolBarModeSlim */
+    CToolBar(EnumToolBarMode mode, QWidget* parent);
+    ~CToolBar() override;
+
+    /** @param width of the group caption's area in pixels, from the next paint on; below 0 it follows the bar */
+    void SetFixedWidthForPainting(int width);
+
+    /** Outside a Chinese environment, puts the last word of each caption made from now on onto a line of its own. */
+    void SetSplitLastWordMode(bool split);
+    bool IsSplitLastWordMode() const;
+
+    /**
+     * Unchecks the checked tool, wherever it stands, and forgets it. The block that holds it keeps its full width until
+     * its own button is clicked again.
+     */
+    static void ClearCheckedBtn();
+
+    QSize sizeHint() const override;
+
+    /** The tool that is checked at present, over all bars; null when there is none. Written by the blocks. */
+    static CToolButton* m_pBtnChecked;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+    EnumToolBarMode m_eMode;
+    bool m_bGeometryPending = false;
+    QToolButton* m_pExtensionBtn = nullptr;
+    QList<CToolButton*> m_listToolBtn;
+    int m_nFixedWidthForPainting = -1;
+    bool m_bSplitLastWord = false;
+
+private:
+    int RightmostButtonEdge() const;
+
+    QPointer<QStyle> m_pStyle;
+};

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <CustomControls/CustomControlsGlobal.h>
+
+#include <QToolButton>
+
+class QPainter;
+
+/**
+ * The large button of the ribbon: an icon on top, a caption of one or more lines below it, a down arrow at the right
+ * edge when it has a menu, and a rounded green fill that tells its state. It paints itself; no style sheet reaches it.
+ *
+ * CToolBarItem makes whole rows of them and gives each the width and the number of caption lines of its row; a button
+ * made alone does without. Owned by its parent. For a button in a dialog use CVelmarButton.
+ *
+ * Enabled, it shows its icon's QIcon::On look and disabled its QIcon::Off look, checked or not. The dynamic property
+ * "highlight", a colour as text ("#ffcc00", "red"), is painted behind everything else; a text that is no colour paints
+ * nothing. The property "textColor" is reserved and changes nothing.
+ *
+ * @code
+ * auto* button = new CToolButton(this);
+ * button->setText(tr("铣削"));
+ * button->setIcon(StatefulIcon::create(":/icon/mill.png", ":/icon/mill_grey.png", 32));
+ * button->setIconSize(QSize(32, 32));
+ * @endcode
+ */
+class CUSTOMCONTROLS_EXPORT CToolButton : public QToolButton
+{
+    Q_OBJECT
+
+public:
+    explicit CToolButton(QWidget* parent);
+
+    /** @param width of the widest caption of the row, in pixels; one that is narrower than the icon changes nothing */
+    void SetSharedWidth(int width);
+
+    /** @param lines that the row reserves for captions; anything below 1 counts as 1 */
+    void SetSharedTextLines(int lines);
+    int SharedTextLines() const;
+
+    /** Makes the button look hovered, or not, and repaints at once. The pointer's next coming or going overrules it. */
+    void SetSelected(bool selected);
+
+    /** Takes the hover away and repaints at once: for a button that opened something over itself. */
+    void ClearHover();
+
+    /** Turns the solid green fill on, or off again, and repaints at once. */
+    void SetFocuseState();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    QSize sizeHint() const override;
+
+Q_SIGNALS:
+    /** A mouse button was pressed on the button while it was disabled. */
+    void SignalBtnDisabledClick();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+public:
+    /** True for the small button that stands in stacks. */
+    virtual bool IsVerticalBtn();
+
+protected:
+    /** The icon's look for the button's state, null when there is none. */
+    QPixmap StatePixmap(bool enabled) const;
+    /** Fills the whole button with rounded corners. */
+    void PaintFill(QPainter& painter, const QColor& color, qreal radius) const;
+
+    int m_nSharedWidth = 0;
+    int m_nSharedTextLines = 1;
+    bool m_bHovered = false;
+    bool m_bPressed = false;
+    bool m_bFocusState = false;
+};
