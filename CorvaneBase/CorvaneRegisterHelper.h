@@ -21,10 +21,17 @@ class CORVANEBASE_EXPORT CorvaneRegisterHelper : public QObject
 public:
     static CorvaneRegisterHelper* instance();
 
-    /** Records the current machine, and emits signalCurrentMachineChanged when anything of it changed. */
+    /**
+     * Records the current machine, and emits signalCurrentMachineChanged when anything of it changed.
+     *
+     * @param connected whether it is connected now
+     * @param ip        its address in numbers
+     * @param serial    its serial number, in full
+     */
     void SetCurrentMachineConnectStatus(bool connected, const QString& ip, const QString& serial);
 
 Q_SIGNALS:
+    /** The current machine is another one, or its connection was made or lost. */
     void signalCurrentMachineChanged(bool connected, const QString& ip, const QString& serial);
 
 private:

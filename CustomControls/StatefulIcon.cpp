@@ -8,7 +8,7 @@ namespace {
 constexpr qreal kPlainBelow = 1.1;
 constexpr qreal kTripleFrom = 2.1;
 
-// An icon's own size does not choose its file, only the ratio does; so "image.v2@2x.png" stands beside "image.v2.png".
+// The tag stands before the last dot, as for the toolkit's own lookup: "image.v2@2x.png" belongs to "image.v2.png".
 QString WithRatioTag(const QString& path, const QString& tag)
 {
     const qsizetype dot = path.lastIndexOf(QLatin1Char('.'));

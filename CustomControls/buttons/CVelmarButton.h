@@ -63,12 +63,15 @@ public:
      * @param iconFirst      beside each other: true puts the icon left of the text; without meaning when vertical
      * @param backgroundKind 0 solid colours, 1 vertical gradient, 2 image; any other kind paints no background and
      * leaves the icon without a look
+     * @param parent         the owner; may be null
      */
     CVelmarButton(EnumButtonType type, bool vertical, bool iconFirst, int backgroundKind, QWidget* parent);
 
-    /** Margins around the icon and the icon's largest size, in logical pixels. */
+    /**
+     * Margins around the icon and the icon's largest size, in logical pixels. A negative one counts as 0.
+     */
     void SetButtonImagePos(int left, int top, int right, int bottom, int maxWidth, int maxHeight);
-    /** Margins around the text and the text's largest size, in logical pixels. */
+    /** Margins around the text and the text's largest size, in logical pixels; bad ones as for the icon. */
     void SetButtonTextPos(int left, int top, int right, int bottom, int maxWidth, int maxHeight);
     /** Lets the text wrap; it then shrinks until it fits. */
     void SetButtonTextWrap(bool wrap);
@@ -76,11 +79,18 @@ public:
     void SetButtonIcon(const QString& normal, const QString& pressed, const QString& hover, const QString& chosen);
     /** The image in place of the text, for ButtonTypeIconImage and ButtonTypeIconImageChoose; others only store it. */
     void SetButtonIcon_Text(const QString& normal, const QString& pressed, const QString& hover, const QString& chosen);
-    /** The caption. The font keeps its size; it is replaced by the product's own when its weight is not 600 (bold) or
-     * 400. */
+    /**
+     * The caption. Its font keeps its size, and becomes the product's own when its weight is not yet 600 (@p bold) or
+     * 400 (not bold).
+     */
     void SetButtonText(const QString& text, bool bold);
-    /** @param pixelSize 1 or more; anything smaller changes nothing */
+    /**
+     * The size of the caption's font.
+     *
+     * @param pixelSize in logical pixels, 1 or more; anything smaller changes nothing
+     */
     void SetButtonFontSize(int pixelSize);
+    /** The font of the caption as it was set; a caption that wraps may be painted smaller. */
     QFont GetButtonTextFont();
     /**
      * Centres icon and text in the button's width, as SetButtonSize() gave it, and cuts the text label to its text.
@@ -88,9 +98,11 @@ public:
      */
     void UpdateContentSize();
     /**
-     * Adds a hidden round bubble.
+     * Adds a hidden bubble, whose corners are rounded by half its height. One that was added before stays where it is,
+     * but follows the button no longer.
      *
-     * @param x, y          its place in the button
+     * @param x, y          its place in the button, in logical pixels
+     * @param width, height its size, in logical pixels; a negative one counts as 0
      * @param color         its style-sheet colour
      * @param clearOnChoose true hides the bubble and forgets its count once the button is chosen; false ties the bubble
      * to the chosen state: shown while chosen, hidden otherwise
@@ -110,24 +122,38 @@ public:
                                StructGradientColor chosen);
     /**
      * The images of background kind 2; with another kind they are drawn over its fill. Each path is a file or resource,
-     * rendered once, for the size that the button has now: size the button first.
+     * rendered once, for the size that the button has now: size the button first. One that cannot be read shows
+     * nothing.
      */
     void SetBackgroundImage(const QString& normal, const QString& pressed, const QString& hover, const QString& chosen);
     /** The text's style-sheet colours. The colour also closes the border text of SetIconBorder(). */
     void SetTextColor(const QString& normal, const QString& pressed, const QString& hover, const QString& chosen);
-    /** @param radius of the corners, in pixels. It shows with the next restyle or repaint; none is asked for here. */
+    /**
+     * Rounds the corners. It shows with the next restyle or repaint; none is asked for here.
+     *
+     * @param radius in logical pixels; 0 and less give square corners
+     */
     void SetBtnRadius(int radius);
     /** Chooses the button or not. It shows for the types that can be chosen; the bubble follows for all. */
     void SetChooseFocus(bool chosen);
-    /** @param border what stands before the colour, such as "border:1px solid "; used while @p enable is true */
+    /**
+     * Frames the icon in the text's colour, with the corners of SetBtnRadius().
+     *
+     * @param border what stands before the colour, such as "border:1px solid "; kept for later while @p enable is false
+     */
     void SetIconBorder(const QString& border, bool enable);
+    /** Whether the button is chosen, also for a type on which that does not show. */
     bool GetChooseFocusState();
+    /** The caption, "ZVButton" until SetButtonText(). */
     QString GetButtonText();
-    /** The button's size, in logical pixels: the largest that it can have, and what gradients and centring count with.
+    /**
+     * The button's size, in logical pixels: the largest that it can have, and what gradients and centring count with.
+     * The button is not resized, and nothing is repainted.
      */
     void SetButtonSize(int width, int height);
     /** Alignment of the text in its label; centred until then. A text that may wrap is always centred. */
     void SetAlignment(Qt::Alignment alignment);
+    /** The font of the caption. SetButtonText() keeps it when its weight fits. */
     void SetTextFont(QFont font);
     /** Enables or disables the button and its labels. A disabled button emits nothing. */
     void SetEnabled(bool enabled);

@@ -29,6 +29,7 @@ public:
     explicit CDelegateLineEdit(QObject* parent);
     ~CDelegateLineEdit() override;
 
+    /** A QLineEdit without frame in the house look, its text centred. @p parent owns it. */
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     /** Does nothing: the editor stays, hidden, until the view goes. */
     void destroyEditor(QWidget* editor, const QModelIndex& index) const override;

@@ -29,6 +29,7 @@ public:
     /** True paints the icon alone, up to 160 by 32 pixels at the cell's middle. It shows with the next repaint. */
     void SetDelegateType(bool iconOnly);
 
+    /** Paints the cell of @p index into the rectangle of @p option; outside columns 1 and 2 as the base does. */
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     /** Null: the cell cannot be edited. */
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;

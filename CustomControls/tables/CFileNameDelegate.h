@@ -32,6 +32,7 @@ public:
     /** Where a text that is too long is cut; Qt::ElideRight until then. It shows with the next repaint. */
     void SetElideMode(Qt::TextElideMode mode);
 
+    /** Paints the line of @p index at the top of the rectangle of @p option; an invalid index as the base does. */
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     /** Null: the cell cannot be edited. */
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
