@@ -128,11 +128,16 @@ private Q_SLOTS:
     void imageTypeHasNoChosenLookOverImages();
     void disabledHoverShowsTheNormalImage();
     void imagesCoverASolidBackground();
+    void imagesOfTheImageKindAreDrawnTwice();
+    void chosenImageLiesOverTheOneOfTheState();
     void strangeStateDrawsTheChosenImageOnly();
+    void strangeStateLooksNormalOtherwise();
     void unknownKindPaintsNothingAndStylesTheTextOnly();
     void imagesTakeTheSizeOfTheMoment();
     void radiusRoundsTheCornersWithTheNextPaint();
     void hoverEntersAndLeaves();
+    void everyChangeAsksForARepaint_data();
+    void everyChangeAsksForARepaint();
     void hoverBeforeTheFirstPaintStyles();
     void hoverAsksForNoLayout();
     void hoverWithoutChangeTouchesNoLabel();
@@ -577,6 +582,36 @@ void CVelmarButtonTest::imagesCoverASolidBackground()
     }
 }
 
+void CVelmarButtonTest::imagesOfTheImageKindAreDrawnTwice()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("n.png"));
+    MakePng(path, QColor(255, 0, 0, 128));
+    CVelmarButton button(ButtonTypeIcon, false, true, 2, nullptr);
+    button.resize(80, 40);
+    button.SetBackgroundImage(path, path, path, path);
+    // Half of what the first drawing leaves free is covered by the second.
+    QVERIFY(qAbs(Picture(button).pixelColor(40, 20).alpha() - 191) <= 1);
+    button.m_bHasBackgroundImage = false;
+    QVERIFY(qAbs(Picture(button).pixelColor(40, 20).alpha() - 128) <= 1);
+}
+
+void CVelmarButtonTest::chosenImageLiesOverTheOneOfTheState()
+{
+    const QTemporaryDir folder;
+    const QString opaque = folder.filePath(QStringLiteral("n.png"));
+    const QString half = folder.filePath(QStringLiteral("c.png"));
+    MakePng(opaque, Qt::red);
+    MakePng(half, QColor(0, 0, 255, 128));
+    CVelmarButton button(ButtonTypeIconChoose, false, true, 0, nullptr);
+    button.resize(80, 40);
+    button.SetBackgroundImage(opaque, opaque, opaque, half);
+    button.SetChooseFocus(true);
+    const QColor mixed = Picture(button).pixelColor(40, 20);
+    QVERIFY(qAbs(mixed.red() - 127) <= 1);
+    QVERIFY(qAbs(mixed.blue() - 128) <= 1);
+}
+
 void CVelmarButtonTest::strangeStateDrawsTheChosenImageOnly()
 {
     const ImageFolder images;
@@ -589,6 +624,25 @@ void CVelmarButtonTest::strangeStateDrawsTheChosenImageOnly()
         QCOMPARE(Picture(button).pixelColor(40, 20).alpha(), 0);
         button.SetChooseFocus(true);
         QCOMPARE(Picture(button).pixelColor(40, 20), QColor(Qt::yellow));
+    }
+}
+
+void CVelmarButtonTest::strangeStateLooksNormalOtherwise()
+{
+    for (const int kind : {0, 1}) {
+        CVelmarButton button(ButtonTypeIconChoose, false, true, kind, nullptr);
+        button.resize(80, 40);
+        Dress(button);
+        button.SetBackgroundSolid(Qt::red, Qt::green, Qt::blue, Qt::yellow);
+        button.SetBackgroundGradient({Qt::red, Qt::red}, {}, {}, {Qt::yellow, Qt::yellow});
+        for (const int state : {-1, 3, 99}) {
+            button.m_iState = state;
+            button.SetChooseFocus(false);
+            QCOMPARE(Picture(button).pixelColor(1, 1), QColor(Qt::red));
+            QCOMPARE(button.m_pIconLabel->styleSheet(), QStringLiteral("image:url(n);background:transparent;"));
+            button.SetChooseFocus(true);
+            QCOMPARE(Picture(button).pixelColor(1, 1), QColor(Qt::yellow));
+        }
     }
 }
 
@@ -654,6 +708,59 @@ void CVelmarButtonTest::hoverEntersAndLeaves()
     QVERIFY(!stage.button->m_bHovered);
     QCOMPARE(stage.TextSheet(), QStringLiteral("color:#000001;background:transparent;"));
     QCOMPARE(Picture(*stage.button).pixelColor(1, 1), QColor(230, 230, 230));
+}
+
+void CVelmarButtonTest::everyChangeAsksForARepaint_data()
+{
+    QTest::addColumn<int>("change");
+    int change = 0;
+    for (const char* name : {"enter", "leave", "press", "release", "choose"}) {
+        QTest::newRow(name) << change++;
+    }
+}
+
+void CVelmarButtonTest::everyChangeAsksForARepaint()
+{
+    class PaintCounter : public QObject
+    {
+    public:
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            count += event->type() == QEvent::Paint;
+            return false;
+        }
+        int count = 0;
+    };
+    QFETCH(int, change);
+    // Looks of the labels are all the same, so that no label brings a repaint about.
+    const Stage stage(ButtonTypeIconText);
+    const QString black = QStringLiteral("black");
+    stage.button->SetTextColor(black, black, black, black);
+    QCoreApplication::processEvents();
+    PaintCounter counter;
+    stage.button->installEventFilter(&counter);
+    switch (change) {
+    case 0:
+        stage.Enter();
+        break;
+    case 1:
+        stage.Leave();
+        break;
+    case 2: {
+        QMouseEvent press(QEvent::MouseButtonPress, stage.inside, QPointF(), Qt::LeftButton, Qt::LeftButton, {});
+        stage.button->mousePressEvent(&press);
+        break;
+    }
+    case 3: {
+        QMouseEvent release(QEvent::MouseButtonRelease, stage.inside, QPointF(), Qt::LeftButton, Qt::NoButton, {});
+        stage.button->mouseReleaseEvent(&release);
+        break;
+    }
+    default:
+        stage.button->SetChooseFocus(true);
+        break;
+    }
+    QTRY_COMPARE(counter.count, 1);
 }
 
 void CVelmarButtonTest::hoverBeforeTheFirstPaintStyles()

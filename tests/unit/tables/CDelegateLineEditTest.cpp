@@ -24,6 +24,8 @@ private Q_SLOTS:
     void editorKeepsItsInsetFromTheCell();
     void loadingShowsTheTextAndRemembersIt();
     void loadingShowsAlsoWhatThePatternForbids();
+    void loadingActivatesTheWindowOfTheEditor();
+    void everyLoadingGivesACheckOfItsOwn();
     void patternDecidesWhatIsAcceptable_data();
     void patternDecidesWhatIsAcceptable();
     void storingWritesTextOfSixDigits_data();
@@ -120,6 +122,28 @@ void CDelegateLineEditTest::loadingShowsAlsoWhatThePatternForbids()
 {
     QCOMPARE(Load(QStringLiteral("12345.6"))->text(), QStringLiteral("12345.6"));
     QCOMPARE(Load(QStringLiteral("abc"))->text(), QStringLiteral("abc"));
+}
+
+void CDelegateLineEditTest::loadingActivatesTheWindowOfTheEditor()
+{
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&other));
+    QVERIFY(!m_pView->isActiveWindow());
+    Load(QStringLiteral("1"));
+    QVERIFY(QTest::qWaitForWindowActive(m_pView.get()));
+}
+
+void CDelegateLineEditTest::everyLoadingGivesACheckOfItsOwn()
+{
+    QLineEdit* edit = Load(QStringLiteral("1"));
+    const QPointer<const QValidator> first(edit->validator());
+    QVERIFY(first);
+    QCOMPARE(first->parent(), nullptr);
+    m_pDelegate->setEditorData(edit, m_pModel->index(0, 0));
+    QVERIFY(edit->validator() != first);
+    QVERIFY(first);
 }
 
 void CDelegateLineEditTest::patternDecidesWhatIsAcceptable_data()

@@ -57,7 +57,11 @@ private Q_SLOTS:
     void emptyCellPaintsNothing();
     void selectionDoesNotShow();
     void iconOnlyStandsInItsFrameAndUsesTheOnLook();
+    void iconOnlyCentresASmallIcon();
     void iconOnlyWithoutIconPaintsNothing();
+    void brushColorsTheText();
+    void cellWithoutFontAndColorDoesNotFail();
+    void painterKeepsItsState();
     void otherColumnsLookAsUsual_data();
     void otherColumnsLookAsUsual();
     void modeAsksForNoRepaint();
@@ -165,11 +169,54 @@ void CDelegateTableViewItemTest::iconOnlyStandsInItsFrameAndUsesTheOnLook()
     QVERIFY(BoundsOf(image, IsReddish).isEmpty());
 }
 
+void CDelegateTableViewItemTest::iconOnlyCentresASmallIcon()
+{
+    m_delegate.SetDelegateType(true);
+    m_model.setData(m_model.index(0, 2), SolidIcon(QSize(16, 16), Qt::green, Qt::blue), Qt::DecorationRole);
+    const QRect icon = BoundsOf(Paint(2), IsBlue);
+    QCOMPARE(icon.size(), QSize(16, 16));
+    QVERIFY(qAbs(icon.center().x() - m_cell.center().x()) <= 1);
+    QVERIFY(qAbs(icon.center().y() - m_cell.center().y()) <= 1);
+}
+
 void CDelegateTableViewItemTest::iconOnlyWithoutIconPaintsNothing()
 {
     m_delegate.SetDelegateType(true);
     m_model.setData(m_model.index(0, 1), QStringLiteral("HHH"), Qt::DisplayRole);
     QVERIFY(BoundsOf(Paint(1), [](const QColor& c) { return c != QColor(Qt::white); }).isEmpty());
+}
+
+void CDelegateTableViewItemTest::brushColorsTheText()
+{
+    const QModelIndex index = m_model.index(0, 1);
+    m_model.setData(index, QStringLiteral("HHH"), Qt::DisplayRole);
+    const QImage colored = Paint(1);
+    m_model.setData(index, QBrush(Qt::red), Qt::ForegroundRole);
+    QCOMPARE(Paint(1), colored);
+    QVERIFY(!BoundsOf(colored, IsReddish).isEmpty());
+}
+
+void CDelegateTableViewItemTest::cellWithoutFontAndColorDoesNotFail()
+{
+    const QModelIndex index = m_model.index(0, 1);
+    m_model.setData(index, QVariant(), Qt::FontRole);
+    m_model.setData(index, QVariant(), Qt::ForegroundRole);
+    m_model.setData(index, QStringLiteral("HHH"), Qt::DisplayRole);
+    QVERIFY(!BoundsOf(Paint(1), [](const QColor& c) { return c.value() < 128; }).isEmpty());
+}
+
+void CDelegateTableViewItemTest::painterKeepsItsState()
+{
+    m_model.setData(m_model.index(0, 1), QStringLiteral("HHH"), Qt::DisplayRole);
+    QImage image(260, 60, QImage::Format_ARGB32_Premultiplied);
+    QPainter painter(&image);
+    const QPen pen = painter.pen();
+    const QFont font = painter.font();
+    QStyleOptionViewItem option;
+    option.rect = m_cell;
+    m_delegate.paint(&painter, option, m_model.index(0, 1));
+    QCOMPARE(painter.pen(), pen);
+    QCOMPARE(painter.font(), font);
 }
 
 void CDelegateTableViewItemTest::otherColumnsLookAsUsual_data()

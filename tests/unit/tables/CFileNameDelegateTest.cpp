@@ -52,6 +52,8 @@ private Q_SLOTS:
     void textIsCentredInTwentyFourPixels();
     void selectedTextIsWhiteAndNothingElseChanges();
     void elideModeTakesEffectAtTheNextPaint();
+    void brushColorsTheText();
+    void rowWithoutFontAndColorDoesNotFail();
     void delegateTypeIsStoredOnly();
     void invalidIndexLooksAsUsual();
     void narrowCellDoesNotFail();
@@ -158,6 +160,8 @@ void CFileNameDelegateTest::elideModeTakesEffectAtTheNextPaint()
     m_model.setData(m_model.index(0, 0), QString(60, QLatin1Char(' ')) + QString(60, QLatin1Char('H')),
                     Qt::DisplayRole);
     const QImage right = Paint(cell);
+    m_pDelegate->SetElideMode(Qt::ElideRight);
+    QCOMPARE(Paint(cell), right);
     m_pDelegate->SetElideMode(Qt::ElideLeft);
     const QImage left = Paint(cell);
     m_pDelegate->SetElideMode(Qt::ElideMiddle);
@@ -165,6 +169,22 @@ void CFileNameDelegateTest::elideModeTakesEffectAtTheNextPaint()
     QVERIFY(right != left);
     QVERIFY(right != middle);
     QVERIFY(left != middle);
+}
+
+void CFileNameDelegateTest::brushColorsTheText()
+{
+    const QRect cell(0, 12, 200, 24);
+    const QImage colored = Paint(cell);
+    m_model.setData(m_model.index(0, 0), QBrush(Qt::red), Qt::ForegroundRole);
+    QCOMPARE(Paint(cell), colored);
+}
+
+void CFileNameDelegateTest::rowWithoutFontAndColorDoesNotFail()
+{
+    m_model.setData(m_model.index(0, 0), QVariant(), Qt::FontRole);
+    m_model.setData(m_model.index(0, 0), QVariant(), Qt::ForegroundRole);
+    const QImage image = Paint(QRect(0, 12, 200, 24));
+    QVERIFY(!BoundsOf(image, [](const QColor& c) { return c.value() < 30; }).isEmpty());
 }
 
 void CFileNameDelegateTest::delegateTypeIsStoredOnly()
