@@ -150,7 +150,8 @@ bool CSelectMachineIPLineEdit::IsFocusInside()
 
 void CSelectMachineIPLineEdit::CloseWhenLeft()
 {
-    if (!IsFocusInside()) {
+    // hide() takes the focus away too, and tells nothing: whoever hides the pop-up has done with its text.
+    if (!isHidden() && !IsFocusInside()) {
         close();
     }
 }

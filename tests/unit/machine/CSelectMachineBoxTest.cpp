@@ -93,6 +93,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
+    void methodsStandInTheirOrder();
     void formStandsAsDrawn();
     void layoutsStandAsDrawn_data();
     void layoutsStandAsDrawn();
@@ -131,6 +132,7 @@ private Q_SLOTS:
     void indexFollowsWhateverHappensToTheRows();
     void indexKeepsTheFirstOfTwoRows();
     void clearingForgetsRowsAndAddressesOnly();
+    void rowsAndAddressesGoInTheirOrder();
 
     void clickOnEitherColumnTakesTheRow();
     void keyboardChoiceCarriesTheRowClickedLast();
@@ -138,6 +140,9 @@ private Q_SLOTS:
     void connectWithASelectionAnnouncesTheRow();
     void routeChangeAfterTheClickKeepsTheOldAddress();
     void typedAddressWinsOverASelectedRow();
+    void typedAddressIsTrimmed();
+    void panelDuringTheAnnouncementOfATypedAddress();
+    void connectByTheKeyboardTakesTheAddressOfAFocusedPopUp();
     void connectResultFalseMakesItUsable();
     void connectResultTrueClosesAndDeletes();
     void resultWithinTheSignal_data();
@@ -181,6 +186,20 @@ void CSelectMachineBoxTest::init()
 void CSelectMachineBoxTest::cleanup()
 {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void CSelectMachineBoxTest::methodsStandInTheirOrder()
+{
+    const QMetaObject& meta = CSelectMachineBox::staticMetaObject;
+    QStringList methods;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        methods << QString::fromLatin1(meta.method(i).methodSignature());
+    }
+    QCOMPARE(methods,
+             QStringList({"SignalMachineSelected(QString,QString)", "SignalSelectRefresh()",
+                          "SignalGetMachineSNFinished(bool,QString,QString)", "on_m_btnConnect_clicked()",
+                          "on_m_btnRefresh_clicked()", "on_ipButton_clicked()", "on_btnSwitchConnect_clicked()",
+                          "on_btnCancel_clicked()", "on_btnConfig_clicked()", "on_pushButton_clicked()"}));
 }
 
 void CSelectMachineBoxTest::formStandsAsDrawn()
@@ -839,6 +858,20 @@ void CSelectMachineBoxTest::clearingForgetsRowsAndAddressesOnly()
     panel.ClearBoxInfo();
 }
 
+void CSelectMachineBoxTest::rowsAndAddressesGoInTheirOrder()
+{
+    Panel panel;
+    QList<int> addresses; // known at the moment when the rows go
+    connect(panel.m_pModel, &QAbstractItemModel::rowsRemoved, this,
+            [&] { addresses << int(panel.m_hashIpToSn.size()); });
+    const QString text = Machine(QStringLiteral("SN1"), QStringLiteral("10.0.0.5"), Eth);
+    panel.SetMachineInfo(text, false);
+    panel.ClearBoxInfo();
+    panel.SetMachineInfo(text, false);
+    panel.ui->m_btnRefresh->click();
+    QCOMPARE(addresses, QList<int>({0, 1}));
+}
+
 void CSelectMachineBoxTest::clickOnEitherColumnTakesTheRow()
 {
     Panel panel;
@@ -939,6 +972,60 @@ void CSelectMachineBoxTest::typedAddressWinsOverASelectedRow()
     QVERIFY(panel.ui->ipLabel->text().isEmpty());
     QCOMPARE(panel.ui->ipButton->text(), QStringLiteral("指定IP"));
     QVERIFY(!panel.m_pIpLineEdit->isVisible());
+    QVERIFY(panel.m_pIpLineEdit->ui->lineEdit->text().isEmpty());
+}
+
+void CSelectMachineBoxTest::typedAddressIsTrimmed()
+{
+    Panel panel;
+    panel.SetMachineInfo(Machine(QStringLiteral("SN1"), QStringLiteral("10.0.0.5"), Eth), false);
+    QSignalSpy spy(&panel, &CSelectMachineBox::SignalMachineSelected);
+    panel.InputIp(QStringLiteral("  "));
+    panel.ui->m_btnConnect->click();
+    QCOMPARE(spy.count(), 0);
+    panel.InputIp(QStringLiteral(" 10.0.0.5\t"));
+    panel.ui->m_btnConnect->click();
+    QCOMPARE(spy.value(0), QList<QVariant>({QStringLiteral("10.0.0.5"), QStringLiteral("SN1")}));
+}
+
+// The address goes only after the host has been told.
+void CSelectMachineBoxTest::panelDuringTheAnnouncementOfATypedAddress()
+{
+    Panel panel;
+    panel.InputIp(QStringLiteral("10.0.0.77"));
+    LogCapture log;
+    bool told = false;
+    connect(&panel, &CSelectMachineBox::SignalMachineSelected, this, [&] {
+        told = true;
+        QVERIFY(!panel.ui->m_btnConnect->isEnabled());
+        QVERIFY(!panel.ui->m_btnRefresh->isEnabled());
+        QVERIFY(panel.CloseButton()->isHidden());
+        QCOMPARE(panel.ui->m_btnConnect->text(), QStringLiteral("连接中..."));
+        QCOMPARE(panel.ui->ipLabel->text(), QStringLiteral("10.0.0.77"));
+        QCOMPARE(panel.ui->ipButton->text(), QStringLiteral("清除"));
+        QCOMPARE(log.Lines().value(1), QStringLiteral("通过指定IP连接 IP:10.0.0.77"));
+    });
+    panel.ui->m_btnConnect->click();
+    QVERIFY(told);
+    QVERIFY(panel.ui->ipLabel->text().isEmpty());
+}
+
+// The pop-up has the focus and the cursor is elsewhere: hiding it must not tell its address a second time.
+void CSelectMachineBoxTest::connectByTheKeyboardTakesTheAddressOfAFocusedPopUp()
+{
+    Panel panel;
+    panel.show();
+    panel.ui->ipButton->click();
+    QVERIFY(QTest::qWaitForWindowActive(panel.m_pIpLineEdit));
+    QTest::keyClicks(panel.m_pIpLineEdit->ui->lineEdit, QStringLiteral("10.0.0.77"));
+    QVERIFY(panel.m_pIpLineEdit->isVisible());
+    QSignalSpy spy(&panel, &CSelectMachineBox::SignalMachineSelected);
+    panel.ui->m_btnConnect->click();
+    QCoreApplication::processEvents();
+    QCOMPARE(spy.count(), 1);
+    QVERIFY(panel.ui->ipLabel->text().isEmpty());
+    QCOMPARE(panel.ui->ipButton->text(), QStringLiteral("指定IP"));
+    QCOMPARE(panel.ui->m_btnConnect->text(), QStringLiteral("连接中..."));
     QVERIFY(panel.m_pIpLineEdit->ui->lineEdit->text().isEmpty());
 }
 

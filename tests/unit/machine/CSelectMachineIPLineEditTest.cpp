@@ -46,6 +46,7 @@ private Q_SLOTS:
     void flashRunsOutOnTheHiddenPopUp();
     void losingTheFocusClosesWhenTheCursorIsElsewhere();
     void cursorInsideKeepsItOpen();
+    void hidingTellsNothing_data();
     void hidingTellsNothing();
     void clearInputTellsNothing();
     void reopensWithItsOldText();
@@ -345,15 +346,33 @@ void CSelectMachineIPLineEditTest::cursorInsideKeepsItOpen()
     QVERIFY(edit.isVisible());
 }
 
+void CSelectMachineIPLineEditTest::hidingTellsNothing_data()
+{
+    QTest::addColumn<bool>("fieldFocused");
+    QTest::newRow("pop-up focused") << false;
+    QTest::newRow("field focused") << true;
+}
+
+// Also when hiding takes the focus away from it and the cursor is elsewhere.
 void CSelectMachineIPLineEditTest::hidingTellsNothing()
 {
+    QFETCH(bool, fieldFocused);
     CSelectMachineIPLineEdit edit(nullptr);
-    QCursor::setPos(edit.geometry().center());
+    edit.move(10, 10);
     edit.show();
-    edit.ui->lineEdit->setText(QStringLiteral("1.2"));
+    QVERIFY(QTest::qWaitForWindowActive(&edit));
+    if (fieldFocused) {
+        QCursor::setPos(edit.geometry().center());
+        edit.ui->lineEdit->setFocus();
+        QCursor::setPos(m_ptOutside);
+    }
+    edit.ui->lineEdit->setText(QStringLiteral("192.168.1.1"));
     QSignalSpy spy(&edit, &CSelectMachineIPLineEdit::SignalInputIP);
     edit.hide();
+    QTRY_VERIFY(!edit.hasFocus() && !edit.ui->lineEdit->hasFocus());
+    QCoreApplication::processEvents();
     QCOMPARE(spy.count(), 0);
+    QCOMPARE(edit.ui->lineEdit->text(), QStringLiteral("192.168.1.1"));
 }
 
 void CSelectMachineIPLineEditTest::clearInputTellsNothing()
