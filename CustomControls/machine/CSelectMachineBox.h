@@ -32,9 +32,11 @@ class CSelectMachineBox;
  *
  * @code
  * auto* panel = new CSelectMachineBox(mainWindow);
- * connect(panel, &CSelectMachineBox::SignalMachineSelected, host, &Host::ConnectMachine); // then
- * panel->OnConnectResult(ok) connect(panel, &CSelectMachineBox::SignalSelectRefresh, host, &Host::FindMachines);     //
- * then panel->SetMachineInfo(...) panel->show();
+ * // Connects by the host's own means, then calls panel->OnConnectResult(ok):
+ * connect(panel, &CSelectMachineBox::SignalMachineSelected, host, &Host::ConnectMachine);
+ * // Looks for machines and calls panel->SetMachineInfo(text, false) for each:
+ * connect(panel, &CSelectMachineBox::SignalSelectRefresh, host, &Host::FindMachines);
+ * panel->show();
  * @endcode
  */
 class CUSTOMCONTROLS_EXPORT CSelectMachineBox : public CVelmarSelectBox

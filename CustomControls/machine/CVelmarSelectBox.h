@@ -48,7 +48,7 @@ public:
     /** Hides or shows the close button. Escape closes the shell either way. */
     void SetCloseBtnHide(bool hide);
 
-    /** Fixes the shell's size, in logical pixels. */
+    /** Fixes the shell's size, in logical pixels; a negative one counts as 0. */
     void SetBaseSize(int width, int height);
 
     /** Shows @p text behind the title; an empty text hides the hint, which keeps its old text. */
