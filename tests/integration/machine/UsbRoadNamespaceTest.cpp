@@ -8,6 +8,7 @@
 #include <CorvaneBase/NetworkConfigurator.h>
 
 #include <tests/support/LogCapture.h>
+#include <tests/support/NestedLoop.h>
 #include <tests/support/TestMain.h>
 
 #include <QLabel>
@@ -32,17 +33,6 @@ bool g_inOwnNamespace = false;
 const QString MachineAddress = QStringLiteral("192.168.7.2");
 const QString Serial = QStringLiteral("CNC-000451");
 
-template <class Widget>
-Widget* VisibleTopLevel()
-{
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-        if (auto* found = qobject_cast<Widget*>(widget); found != nullptr && found->isVisible()) {
-            return found;
-        }
-    }
-    return nullptr;
-}
-
 bool BoxShows()
 {
     return VisibleTopLevel<CVelmarMessageBox>() != nullptr;
@@ -65,27 +55,6 @@ QString BoxText()
     }
     return text;
 }
-
-// Does something once, as soon as a condition holds, from within whatever loop is running.
-class Once : public QObject
-{
-public:
-    Once(std::function<bool()> condition, std::function<void()> deed)
-    {
-        connect(&m_timer, &QTimer::timeout, this, [this, condition, deed] {
-            if (condition()) {
-                m_timer.stop();
-                done = true;
-                deed();
-            }
-        });
-        m_timer.start(5);
-    }
-    bool done = false;
-
-private:
-    QTimer m_timer;
-};
 
 // What listens on the machine's port 5002: answers with these bytes; "" keeps silent, "-" hangs up.
 class SerialService : public QTcpServer

@@ -76,6 +76,7 @@ private Q_SLOTS:
     void answers_data();
     void answers();
     void splitAnswerFailsAndIsNotReadOn();
+    void machineThatResetsAmidItsAnswerFailsOnce();
     void answerInTheMachinesOwnTimeIsTaken();
     void refusedConnectionTellsTheSocketsText();
     void emptyAddressFails();
@@ -235,6 +236,22 @@ void MachineSerialQueryTest::splitAnswerFailsAndIsNotReadOn()
     QTRY_COMPARE(machine.disconnections, 1);
     QCOMPARE(m_spy->count(), 1);
     QCOMPARE(m_strError, Failed);
+}
+
+// What has arrived by then counts: the half answer, or the end of the connection where the system drops it.
+void MachineSerialQueryTest::machineThatResetsAmidItsAnswerFailsOnce()
+{
+    Machine machine([](QTcpSocket* socket) {
+        socket->write(R"({"errorCode":0,"da)");
+        socket->flush();
+        socket->abort();
+    });
+    Ask(machine);
+    QTRY_COMPARE(m_spy->count(), 1);
+    QVERIFY(!Result().at(0).toBool());
+    QVERIFY(!Result().at(2).toString().isEmpty());
+    QTRY_VERIFY(m_panel->findChildren<QTcpSocket*>().isEmpty());
+    QCOMPARE(m_spy->count(), 1);
 }
 
 void MachineSerialQueryTest::answerInTheMachinesOwnTimeIsTaken()

@@ -11,8 +11,10 @@
 #include <CorvaneBase/NetworkConfigurator.h>
 
 #include <tests/support/LogCapture.h>
+#include <tests/support/NestedLoop.h>
 #include <tests/support/TestMain.h>
 
+#include <QScopeGuard>
 #include <QSemaphore>
 #include <QThread>
 #include <QTimer>
@@ -23,17 +25,6 @@
 // Only the two ways that end before the machine's own address is spoken to; the others need a network of their own.
 
 namespace {
-
-template <class Widget>
-Widget* VisibleTopLevel()
-{
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-        if (auto* found = qobject_cast<Widget*>(widget); found != nullptr && found->isVisible()) {
-            return found;
-        }
-    }
-    return nullptr;
-}
 
 // The sibling's two operations, held back until the test lets them go.
 struct Network
@@ -70,27 +61,6 @@ struct Network
     }
 };
 
-// Does something once, as soon as a condition holds, from within whatever loop is running.
-class Once : public QObject
-{
-public:
-    Once(std::function<bool()> condition, std::function<void()> deed)
-    {
-        connect(&m_timer, &QTimer::timeout, this, [this, condition, deed] {
-            if (condition()) {
-                m_timer.stop();
-                done = true;
-                deed();
-            }
-        });
-        m_timer.start(5);
-    }
-    bool done = false;
-
-private:
-    QTimer m_timer;
-};
-
 } // namespace
 
 class MachineUsbRoadTest : public QObject
@@ -115,6 +85,8 @@ private Q_SLOTS:
     void closedDuringTheWork();
     void deletedInTheLogPanesSlot();
     void deletedWhileTheMessageShows();
+    void boxDeletedByTheHostEndsTheMessage();
+    void waitDialogDeletedByTheHostChangesNothing();
     void quittingTheApplicationEndsTheWait();
 
 private:
@@ -239,6 +211,7 @@ void MachineUsbRoadTest::widgetsDuringTheWork()
 {
     bool looked = false;
     const Once look(ProgressShows, [&] {
+        m_network->gate.release();
         looked = true;
         auto* progress = VisibleTopLevel<CProgressWidget>();
         QCOMPARE(progress->getTitle(), QStringLiteral("连接机床"));
@@ -247,7 +220,6 @@ void MachineUsbRoadTest::widgetsDuringTheWork()
         QVERIFY(!m_panel->ui->btnCancel->isEnabled());
         QCOMPARE(m_panel->ui->btnConfig->text(), QStringLiteral("自动配置"));
         QVERIFY(!m_panel->ui->labelFailed->isVisible());
-        m_network->gate.release();
     });
     RunToTheEnd();
     QVERIFY(looked);
@@ -258,11 +230,11 @@ void MachineUsbRoadTest::retryKeepsTheFailureWidgetsDuringTheWait()
     m_network->gate.release();
     RunToTheEnd();
     const Once look(ProgressShows, [&] {
+        m_network->gate.release();
         QVERIFY(m_panel->ui->labelFailed->isVisible());
         QVERIFY(m_panel->ui->labelIcon->isVisible());
         QVERIFY(m_panel->ui->btnSwitchConnect->isVisible());
         QCOMPARE(m_panel->ui->btnConfig->text(), QStringLiteral("重试"));
-        m_network->gate.release();
     });
     RunToTheEnd();
     QVERIFY(look.done);
@@ -275,15 +247,18 @@ void MachineUsbRoadTest::closingMessageIsAPlainNotice()
 {
     m_network->gate.release();
     const Once look(BoxShows, [&] {
+        // Whatever is found, the box is answered: it would wait for ever.
+        const auto answer = qScopeGuard([this] { AnswerBox(); });
         auto* box = VisibleTopLevel<CVelmarMessageBox>();
         QVERIFY(box->parentWidget() == nullptr);
+        QCOMPARE(box->m_iButtonMask, int(MsgBtnOk));
+        QVERIFY(box->findChild<QLabel*>(QStringLiteral("m_labelIcon"))->styleSheet().contains(QStringLiteral("pop_5")));
         QCOMPARE(box->findChild<QLabel*>(QStringLiteral("m_labelTitle"))->text(), QStringLiteral("提示"));
         QCOMPARE(box->findChild<QWidget*>(QStringLiteral("m_widgetBtn"))->findChildren<QPushButton*>().size(), 1);
         // The page is ready before the message is answered.
         QVERIFY(m_panel->ui->btnConfig->isEnabled());
         QVERIFY(m_panel->ui->labelFailed->isVisible());
         QVERIFY(!ProgressShows());
-        AnswerBox();
     });
     Click();
     QVERIFY(look.done);
@@ -373,6 +348,29 @@ void MachineUsbRoadTest::deletedWhileTheMessageShows()
     Click();
     QVERIFY(destroy.done);
     QVERIFY(!m_panel);
+}
+
+void MachineUsbRoadTest::boxDeletedByTheHostEndsTheMessage()
+{
+    m_network->gate.release();
+    const Once destroy(BoxShows, [] { delete VisibleTopLevel<CVelmarMessageBox>(); });
+    Click();
+    QVERIFY(destroy.done);
+    QVERIFY(m_panel->isVisible());
+    QVERIFY(m_panel->ui->btnConfig->isEnabled());
+    QCOMPARE(m_panel->ui->btnConfig->text(), QStringLiteral("重试"));
+}
+
+void MachineUsbRoadTest::waitDialogDeletedByTheHostChangesNothing()
+{
+    const Once destroy(ProgressShows, [this] {
+        delete VisibleTopLevel<CProgressWidget>();
+        m_network->gate.release();
+    });
+    RunToTheEnd();
+    QVERIFY(destroy.done);
+    QCOMPARE(m_listMessages, QStringList(QStringLiteral("机床连接失败【没有网卡】")));
+    QVERIFY(m_panel->ui->labelFailed->isVisible());
 }
 
 void MachineUsbRoadTest::quittingTheApplicationEndsTheWait()
