@@ -1,4 +1,5 @@
 #include <benchmarks/Comparison.h>
+#include <benchmarks/Waiting.h>
 
 #include <CorvaneBase/CorvaneFonts.h>
 #include <CustomControls/messagebox/CVelmarMessageBox.h>
@@ -88,10 +89,20 @@ void OpenAndAnswerToolkit(benchmark::State& state, bool sameLook)
     }
 }
 
+double WaitWithLoadingBox()
+{
+    const CVelmarMessageBox box(nullptr, 0, MsgIconLoading, kTitle, kContent, false, false, {});
+    return Waiting::ProcessorTimeOfASecond();
+}
+
 const Comparison openAndAnswer = Comparison("message box: open, paint, answer, close")
                                      .Ours(OpenAndAnswer)
                                      .SameLook([](benchmark::State& state) { OpenAndAnswerToolkit(state, true); })
                                      .Plain([](benchmark::State& state) { OpenAndAnswerToolkit(state, false); })
                                      .Goal(1.0);
+
+// The counterpart is the animation alone, which any such box needs.
+const Comparison rest = Comparison("message box: processor time of a second of loading, beside the animation")
+                            .Counted(WaitWithLoadingBox, Waiting::ProcessorTimeOfAnimation);
 
 } // namespace

@@ -1,25 +1,19 @@
 #include <benchmarks/Comparison.h>
+#include <benchmarks/Waiting.h>
 
 #include <CustomControls/CProgressWidget/CProgressBar.h>
 #include <CustomControls/CProgressWidget/CProgressWidget.h>
 
 #include <QCoreApplication>
-#include <QEventLoop>
 #include <QImage>
-#include <QLabel>
-#include <QMovie>
 #include <QProgressDialog>
-#include <QTimer>
 
-#include <ctime>
 #include <memory>
 
 namespace {
 
 const QString kMessage = QStringLiteral("重建中，请稍候");
 constexpr int kValue = 40;
-constexpr int kSettleMs = 200;
-constexpr int kWaitMs = 1000;
 
 const QString kDialogSheet = QStringLiteral(
     "QProgressDialog{background:#f6f6f6;border:1px solid #bbbbbb;border-radius:4px;}"
@@ -28,13 +22,6 @@ const QString kDialogSheet = QStringLiteral(
     "qlineargradient(spread:repeat, x1:0.033, y1:0.001, x2:0, y2:0.002 stop:0 #1c9a60, stop:0.5 #1c9a60, "
     "stop:0.501 #1a8e58, stop:1 #1a8e58);}"
     "QProgressBar{border:1px solid rgb(185,185,185);border-radius:5px;background:rgb(219,219,219);}");
-
-void Spin(int ms)
-{
-    QEventLoop loop;
-    QTimer::singleShot(ms, &loop, &QEventLoop::quit);
-    loop.exec();
-}
 
 std::unique_ptr<QProgressDialog> MakeToolkitDialog(const QString& sheet)
 {
@@ -75,32 +62,13 @@ void MakeAndShow(benchmark::State& state)
     }
 }
 
-// Seconds of the process's time that one second of waiting takes, in all its threads.
-double ProcessorTimeOfWaiting()
-{
-    Spin(kSettleMs);
-    const std::clock_t start = std::clock();
-    Spin(kWaitMs);
-    return double(std::clock() - start) / CLOCKS_PER_SEC * 1000.0 / kWaitMs;
-}
-
 double WaitWithDialog(int value)
 {
     CProgressWidget dialog(nullptr);
     dialog.setText(kMessage);
     dialog.setValue(value, true);
     dialog.show();
-    return ProcessorTimeOfWaiting();
-}
-
-double WaitWithMovie()
-{
-    QLabel label;
-    QMovie movie(QStringLiteral(":/icon/gif_pop_bac.gif"));
-    label.setMovie(&movie);
-    movie.start();
-    label.show();
-    return ProcessorTimeOfWaiting();
+    return Waiting::ProcessorTimeOfASecond();
 }
 
 template <typename Bar>
@@ -127,10 +95,10 @@ const Comparison open = Comparison("progress dialog: make, show, paint")
 
 // The counterpart is the animation alone, which any such dialog needs.
 const Comparison rest = Comparison("progress dialog: processor time of a second at rest, beside the animation")
-                            .Counted([] { return WaitWithDialog(0); }, WaitWithMovie);
+                            .Counted([] { return WaitWithDialog(0); }, Waiting::ProcessorTimeOfAnimation);
 
 const Comparison striped = Comparison("progress dialog: the same with moving stripes")
-                               .Counted([] { return WaitWithDialog(kValue); }, WaitWithMovie);
+                               .Counted([] { return WaitWithDialog(kValue); }, Waiting::ProcessorTimeOfAnimation);
 
 const Comparison bar = Comparison("progress bar: paint with a two-coloured text")
                            .Ours(PaintBar<CProgressBar>(true))
