@@ -23,6 +23,7 @@ class CUSTOMCONTROLS_EXPORT CProgressBar : public QProgressBar
     Q_OBJECT
 
 public:
+    /** A bar at 0 of 100 in the house font; @p parent owns it and may be null. */
     explicit CProgressBar(QWidget* parent = nullptr);
 
     /**

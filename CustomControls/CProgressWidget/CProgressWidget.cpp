@@ -3,11 +3,11 @@
 #include "ui_CProgressWidget.h"
 
 #include <CustomControls/CProgressWidget/CProgressBar.h>
+#include <CustomControls/messagebox/MovieCopy_p.h>
 
 #include <CorvaneBase/CorvaneFonts.h>
 #include <CorvaneBase/CorvaneSignalHelper.h>
 
-#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDebug>
@@ -33,8 +33,6 @@ constexpr int kCloseButtonSize = 24;
 constexpr int kCloseButtonMargin = 7;
 
 const char* const kMovieFile = ":/icon/gif_pop_bac.gif";
-constexpr int kMovieIntervalMs = 1;
-constexpr int kMoviePaceMs = 50;
 
 constexpr int kBarWidth = 396;
 constexpr int kBarHeight = 10;
@@ -107,13 +105,7 @@ CProgressWidget::CProgressWidget(QWidget* parent)
     connect(m_pTimerEllipsis, &QTimer::timeout, this, &CProgressWidget::updateEllipsis);
     m_pTimerEllipsis->start(kLongestEllipsisMs);
 
-    // The frames are few and small: kept, they are decoded once instead of once a round.
-    m_pMovie->setCacheMode(QMovie::CacheAll);
-    connect(m_pMovie, &QMovie::frameChanged, this, &CProgressWidget::CopyMovieFrame);
-    m_pMovie->start();
-    connect(m_pTimerMovie, &QTimer::timeout, this, &CProgressWidget::CopyMovieFrame);
-    m_pTimerMovie->start(kMovieIntervalMs);
-    RelaxMovieTimer();
+    MovieCopy::Start(m_pMovie, m_pTimerMovie, ui->label_2);
 
     ui->label_8->setFont(FontCnBold_16);
     ui->label_7->setFont(FontCnMedium_16);
@@ -458,26 +450,6 @@ void CProgressWidget::AdvanceBar()
         setText(m_strStageText);
     }
     SetBarValue(next);
-}
-
-// A thousand wake-ups a second cost several per cent of a processor even when they find nothing new. New frames
-// announce themselves, so the timer, which stays what it is for whoever asks it, is served at a calmer pace.
-void CProgressWidget::RelaxMovieTimer()
-{
-    if (QAbstractEventDispatcher* const dispatcher = QAbstractEventDispatcher::instance()) {
-        const int id = m_pTimerMovie->timerId();
-        dispatcher->unregisterTimer(id);
-        dispatcher->registerTimer(id, kMoviePaceMs, Qt::CoarseTimer, m_pTimerMovie);
-    }
-}
-
-void CProgressWidget::CopyMovieFrame()
-{
-    const int frame = m_pMovie->currentFrameNumber();
-    if (frame != m_nMovieFrame) {
-        m_nMovieFrame = frame;
-        ui->label_2->setPixmap(m_pMovie->currentPixmap());
-    }
 }
 
 // The toolkit closes a shown window by way of its window system, so that the event of a close() looks like one that the

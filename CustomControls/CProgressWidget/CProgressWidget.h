@@ -35,6 +35,11 @@ class CUSTOMCONTROLS_EXPORT CProgressWidget : public QWidget
     Q_OBJECT
 
 public:
+    /**
+     * A dialog that is not yet shown, with its animation and its dots running.
+     *
+     * @param parent owner and the window that it belongs to; may be null
+     */
     explicit CProgressWidget(QWidget* parent = nullptr);
     ~CProgressWidget() override;
     Q_DISABLE_COPY_MOVE(CProgressWidget)
@@ -171,8 +176,6 @@ private:
     int WholeOnScreen(int size) const;
     int NextAutoValue() const;
     void AdvanceBar();
-    void RelaxMovieTimer();
-    void CopyMovieFrame();
     bool IsClosedByProgram() const;
 
     bool m_bUserClosed = false;
@@ -195,6 +198,4 @@ private:
     QString m_strTitle;
     bool m_bCloseBound = false;
     QPushButton* m_pBtnClose;
-
-    int m_nMovieFrame = -1; // the frame that the label shows
 };

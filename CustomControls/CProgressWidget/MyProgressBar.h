@@ -24,6 +24,7 @@ class MyProgressBar : public QWidget
     Q_OBJECT
 
 public:
+    /** A dark bar at 0 of 100 whose stripes will move as soon as it rises; @p parent owns it and may be null. */
     explicit MyProgressBar(QWidget* parent = nullptr);
     ~MyProgressBar() override;
     Q_DISABLE_COPY_MOVE(MyProgressBar)

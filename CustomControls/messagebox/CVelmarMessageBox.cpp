@@ -2,6 +2,8 @@
 
 #include "ui_CVelmarMessageBox.h"
 
+#include <CustomControls/messagebox/MovieCopy_p.h>
+
 #include <CorvaneBase/CDebugLog.h>
 #include <CorvaneBase/CorvaneConstants.h>
 #include <CorvaneBase/CorvaneFonts.h>
@@ -69,7 +71,6 @@ constexpr int kDragHeight = 32;
 
 constexpr int kDotInterval = 500;
 constexpr int kDotStates = 7;
-constexpr int kFrameInterval = 1;
 constexpr int kAutoCloseDelay = 2000;
 
 int CountBits(int mask)
@@ -288,22 +289,10 @@ void CVelmarMessageBox::AddIcon(EnumMsgIcon icon)
     case MsgIconPop1:
         ui->m_labelIcon->setStyleSheet(kIconSheet.arg(1));
         break;
-    case MsgIconLoading: {
+    case MsgIconLoading:
         ui->m_labelIcon->setStyleSheet(kLoadingIconSheet);
-        auto* movie = new QMovie(kLoadingAnimation, QByteArray(), this);
-        auto* timer = new QTimer(this);
-        timer->setInterval(kFrameInterval);
-        // The timer looks a thousand times a second, the label is touched only when there is another frame to show.
-        connect(timer, &QTimer::timeout, ui->m_labelIcon, [label = ui->m_labelIcon, movie, shown = -1]() mutable {
-            if (movie->currentFrameNumber() != shown) {
-                shown = movie->currentFrameNumber();
-                label->setPixmap(movie->currentPixmap());
-            }
-        });
-        movie->start();
-        timer->start();
+        MovieCopy::Start(new QMovie(kLoadingAnimation, QByteArray(), this), new QTimer(this), ui->m_labelIcon);
         break;
-    }
     }
 }
 
@@ -483,6 +472,16 @@ void CVelmarMessageBox::LogInCheckingMode(const char* entry, const QString& titl
     }
 }
 
+// The box is visible from its constructor on, so this brings no second Show event, and a place that an entry point has
+// given it stays.
+int CVelmarMessageBox::RunAndDelete(const QPointer<CVelmarMessageBox>& box)
+{
+    box->show();
+    const int code = box->RunLoop();
+    HideAndDelete(box);
+    return code;
+}
+
 void CVelmarMessageBox::HideAndDelete(const QPointer<CVelmarMessageBox>& box)
 {
     if (box) {
@@ -495,26 +494,14 @@ int CVelmarMessageBox::ShowWindow(QWidget* parent, int buttonMask, EnumMsgIcon i
                                   const QString& content, const QMap<EnumMsgButtonFunction, QString>& buttonTexts)
 {
     LogInCheckingMode("ShowWindow", title, content);
-    const QPointer<CVelmarMessageBox> box =
-        new CVelmarMessageBox(parent, buttonMask, icon, title, content, false, false, buttonTexts);
-    box->ui->checkBox->hide();
-    box->show();
-    const int code = box->RunLoop();
-    HideAndDelete(box);
-    return code;
+    return RunAndDelete(new CVelmarMessageBox(parent, buttonMask, icon, title, content, false, false, buttonTexts));
 }
 
 int CVelmarMessageBox::ShowWindowExt(QWidget* parent, int buttonMask, EnumMsgIcon icon, const QString& title,
                                      const QString& content)
 {
     LogInCheckingMode("ShowWindowExt", title, content);
-    const QPointer<CVelmarMessageBox> box =
-        new CVelmarMessageBox(parent, buttonMask, icon, title, content, true, false, {});
-    box->ui->checkBox->hide();
-    box->show();
-    const int code = box->RunLoop();
-    HideAndDelete(box);
-    return code;
+    return RunAndDelete(new CVelmarMessageBox(parent, buttonMask, icon, title, content, true, false, {}));
 }
 
 int CVelmarMessageBox::ShowWindowAutoClose(QWidget* parent, int buttonMask, EnumMsgIcon icon, const QString& title,
@@ -523,26 +510,17 @@ int CVelmarMessageBox::ShowWindowAutoClose(QWidget* parent, int buttonMask, Enum
     LogInCheckingMode("ShowWindowAutoClose", title, content);
     const QPointer<CVelmarMessageBox> box =
         new CVelmarMessageBox(parent, buttonMask, icon, title, content, false, false, {});
-    box->ui->checkBox->hide();
-    box->show();
-    // The loop outlives box and call, so a timer that comes late finds it and does no harm.
-    QTimer::singleShot(kAutoCloseDelay, box->m_pEventLoop, &QEventLoop::quit);
-    const int code = box->RunLoop();
-    HideAndDelete(box);
-    return code;
+    // The loop outlives box and call, so a timer that comes late finds it and does no harm. A coarse timer could end
+    // the notice a tenth of a second early.
+    QTimer::singleShot(kAutoCloseDelay, Qt::PreciseTimer, box->m_pEventLoop, &QEventLoop::quit);
+    return RunAndDelete(box);
 }
 
 int CVelmarMessageBox::ShowWindowWithoutClose(QWidget* parent, int buttonMask, EnumMsgIcon icon, const QString& title,
                                               const QString& content)
 {
     LogInCheckingMode("ShowWindowWithoutClose", title, content);
-    const QPointer<CVelmarMessageBox> box =
-        new CVelmarMessageBox(parent, buttonMask, icon, title, content, false, false, {});
-    box->ui->checkBox->hide();
-    box->show();
-    const int code = box->RunLoop();
-    HideAndDelete(box);
-    return code;
+    return RunAndDelete(new CVelmarMessageBox(parent, buttonMask, icon, title, content, false, false, {}));
 }
 
 std::pair<int, bool> CVelmarMessageBox::ShowWindowWithCheckBox(QWidget* parent, int buttonMask, EnumMsgIcon icon,
@@ -579,16 +557,13 @@ int CVelmarMessageBox::ShowWindowScreenCenter(QWidget* parent, int buttonMask, E
     LogInCheckingMode("ShowWindowScreenCenter", title, content);
     const QPointer<CVelmarMessageBox> box =
         new CVelmarMessageBox(parent, buttonMask, icon, title, content, false, true, {});
-    box->ui->checkBox->hide();
     if (m_pTopWidget) {
         const QPoint center = m_pTopWidget->geometry().center();
         box->move(center.x() - box->width() / 2, center.y() - box->height() / 2);
     }
     box->show();
     box->raise();
-    const int code = box->RunLoop();
-    HideAndDelete(box);
-    return code;
+    return RunAndDelete(box);
 }
 
 int CVelmarMessageBox::ShowWindowAndOpenDir(QWidget* parent, const QString& path, const QString& content,

@@ -59,8 +59,9 @@ enum EnumMsgButtonFunction : int
  * its parent while it runs ends the run. For a notice that needs no answer take ToastWidget.
  *
  * @code
- * if (CVelmarMessageBox::ShowWindow(this, MsgBtnYes | MsgBtnNo, MsgIconPop3, tr("删除"), tr("删除该文件？")) ==
- * MsgBtnYes) removeFile();
+ * const int answer =
+ *     CVelmarMessageBox::ShowWindow(this, MsgBtnYes | MsgBtnNo, MsgIconPop3, tr("删除"), tr("删除该文件？"));
+ * if (answer == MsgBtnYes) removeFile();
  * @endcode
  *
  * Result codes: the bit of the pressed button; 2 when the user closed the box by the close button or the Escape key,
@@ -97,7 +98,7 @@ public:
      */
     int MsgExec();
 
-    /** Makes the running box return @p code; no signal follows. */
+    /** Makes the running box return @p code; no signal follows. A box that is not running ignores the call. */
     void MsgExit(int code);
 
     /**
@@ -182,6 +183,7 @@ protected Q_SLOTS:
 private:
     static QEventLoop* CreateEventLoop();
     static void LogInCheckingMode(const char* entry, const QString& title, const QString& content);
+    static int RunAndDelete(const QPointer<CVelmarMessageBox>& box);
     static void HideAndDelete(const QPointer<CVelmarMessageBox>& box);
 
     void ApplyCloseButtonRule(int buttonMask);

@@ -140,6 +140,7 @@ private Q_SLOTS:
     void ellipsisIntervalIsClamped();
     void textFlagReachesTheBar();
     void dialogGrowsWithTheMessage();
+    void shownAndHiddenDialogsFitAMessageAlike();
     void labelHeightFollowsEachMessage();
     void sizesEndOnPhysicalPixels();
     void sizesEndOnPhysicalPixelsAtBrokenRatios_data();
@@ -350,10 +351,9 @@ void CProgressWidgetTest::newFrameGoesToTheLabel()
     const CProgressWidget dialog(nullptr);
     QVERIFY(dialog.m_pMovie->isValid());
     QCOMPARE(dialog.m_pMovie->state(), QMovie::Running);
+    QSignalSpy frames(dialog.m_pMovie, &QMovie::frameChanged);
     for (int copies = 0; copies < 2; ++copies) {
-        const int shown = dialog.m_nMovieFrame;
-        QTRY_VERIFY(dialog.m_nMovieFrame != shown);
-        QCOMPARE(dialog.m_nMovieFrame, dialog.m_pMovie->currentFrameNumber());
+        QVERIFY(frames.wait());
         QCOMPARE(Label(dialog, "label_2")->pixmap(Qt::ReturnByValue).toImage(), dialog.m_pMovie->currentImage());
     }
 }
@@ -361,9 +361,9 @@ void CProgressWidgetTest::newFrameGoesToTheLabel()
 void CProgressWidgetTest::sameFrameIsNotCopiedAgain()
 {
     const CProgressWidget dialog(nullptr);
-    QTRY_VERIFY(dialog.m_nMovieFrame >= 0);
     dialog.m_pMovie->setPaused(true);
     Tick(dialog.m_pTimerMovie);
+    QVERIFY(!Label(dialog, "label_2")->pixmap(Qt::ReturnByValue).isNull());
     Label(dialog, "label_2")->clear();
     Tick(dialog.m_pTimerMovie);
     QVERIFY(Label(dialog, "label_2")->pixmap(Qt::ReturnByValue).isNull());
@@ -850,6 +850,30 @@ void CProgressWidgetTest::dialogGrowsWithTheMessage()
     QCOMPARE(Bar(dialog)->mapTo(&dialog, QPoint(0, 0)).y() + 10 + 27, dialog.height());
     dialog.setText(QStringLiteral("短"));
     QCOMPARE(dialog.height(), shortHeight);
+}
+
+void CProgressWidgetTest::shownAndHiddenDialogsFitAMessageAlike()
+{
+    for (const int sentences : {1, 3, 12, 40}) {
+        const QString message = QStringLiteral("模型重建需要较长的时间，请勿关闭机器。").repeated(sentences);
+        CProgressWidget before(nullptr);
+        before.setText(message);
+        before.show();
+        CProgressWidget after(nullptr);
+        after.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&before));
+        QVERIFY(QTest::qWaitForWindowExposed(&after));
+        after.setText(message);
+        for (const CProgressWidget* dialog : {&before, &after}) {
+            const QLabel* label = Label(*dialog, "label_7");
+            QCOMPARE(label->minimumHeight(), label->maximumHeight());
+            QCOMPARE(label->height(), label->minimumHeight());
+            QVERIFY(label->height() >= label->heightForWidth(444));
+            // Margins 27 + 2 + 27, title 24, bar 10 and two gaps of 10.
+            QCOMPARE(dialog->height(), 110 + label->height());
+        }
+        QCOMPARE(after.size(), before.size());
+    }
 }
 
 void CProgressWidgetTest::labelHeightFollowsEachMessage()
