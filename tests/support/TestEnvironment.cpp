@@ -6,7 +6,7 @@
 #include <CorvaneBase/NetworkConfigurator.h>
 
 #include <QApplication>
-#include <QDir>
+#include <QFileInfo>
 #include <QFont>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -16,10 +16,21 @@
 #include <QStyleFactory>
 #include <QTemporaryFile>
 
+namespace {
+
+// Windows always has a desktop to show windows on; elsewhere a test gets a display only where it asks for one.
+#ifdef Q_OS_WIN
+constexpr const char* kPlatform = "windows";
+#else
+constexpr const char* kPlatform = "offscreen";
+#endif
+
+} // namespace
+
 void TestEnvironment::PrepareProcess()
 {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qputenv("QT_QPA_PLATFORM", kPlatform);
     }
     qputenv("LC_ALL", "C.UTF-8");
     qputenv("TZ", "UTC");
@@ -48,14 +59,15 @@ void TestEnvironment::PrepareScreens(const QList<Screen>& screens)
                                 {QStringLiteral("logicalBaseDpi"), 96},
                                 {QStringLiteral("dpr"), screen.dRatio}});
     }
-    // Read when the application object is made, removed when the process ends.
-    static QTemporaryFile file(QDir::temp().filePath(QStringLiteral("screens-XXXXXX.json")));
+    // Read when the application object is made, removed when the process ends. Its name has no folder: a colon behind a
+    // drive's letter would end the argument.
+    static QTemporaryFile file(QStringLiteral("screens-XXXXXX.json"));
     if (!file.open()) {
         qFatal("cannot write %s", qPrintable(file.fileName()));
     }
     file.write(QJsonDocument(QJsonObject{{QStringLiteral("screens"), list}}).toJson());
     file.close();
-    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + file.fileName().toUtf8());
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QFileInfo(file).fileName().toUtf8());
 }
 
 TestEnvironment::TestEnvironment()

@@ -465,7 +465,10 @@ void CProgressWidgetTest::freeAutoWidgetTakesADialogThatDiesOnTheWay()
 
 void CProgressWidgetTest::createAutoWidgetOnAWorkerThreadEndsTheProcess()
 {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("QT_FORCE_STDERR_LOGGING"), QStringLiteral("1")); // Windows: not to the debugger
     QProcess child;
+    child.setProcessEnvironment(environment);
     child.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(kFromWorker)});
     QVERIFY(child.waitForFinished());
     QCOMPARE(child.exitStatus(), QProcess::CrashExit);
@@ -478,8 +481,13 @@ void CProgressWidgetTest::createAutoWidgetOnAWorkerThreadEndsTheProcess()
 
 void CProgressWidgetTest::createAutoWidgetBesideTheApplicationsThreadTellsTheUser()
 {
+    // A desktop's windows belong to the thread that made them; this is about the call and not about its window.
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
     QProcess child;
+    child.setProcessEnvironment(environment);
     child.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(kFromMain)});
+    child.setTextModeEnabled(true);
     QVERIFY(child.waitForFinished());
     QCOMPARE(QString::fromUtf8(child.readAllStandardOutput()),
              QStringLiteral("关键逻辑错误|断言失败: QThread::currentThread() == qApp->thread()\n"
@@ -924,12 +932,17 @@ void CProgressWidgetTest::sizesEndOnPhysicalPixelsAtBrokenRatios()
     environment.insert(QStringLiteral("QT_SCALE_FACTOR"), ratio);
     environment.insert(QStringLiteral("TEST_KEEP_SCALE"), QStringLiteral("1"));
     environment.insert(QString::fromLatin1(kExpectedRatio), ratio);
+    // To a file, since on Windows a test without a console tells its results to a debugger only.
+    const QTemporaryDir folder;
+    QFile report(folder.filePath(QStringLiteral("report.txt")));
     QProcess child;
     child.setProcessEnvironment(environment);
-    child.setProcessChannelMode(QProcess::MergedChannels);
-    child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("sizesEndOnPhysicalPixels")});
+    child.start(
+        QCoreApplication::applicationFilePath(),
+        {QStringLiteral("sizesEndOnPhysicalPixels"), QStringLiteral("-o"), report.fileName() + QStringLiteral(",txt")});
     QVERIFY(child.waitForFinished());
-    const QByteArray output = child.readAll();
+    QVERIFY2(report.open(QIODevice::ReadOnly), child.readAllStandardError().constData());
+    const QByteArray output = report.readAll();
     QVERIFY2(child.exitStatus() == QProcess::NormalExit && child.exitCode() == 0, output.constData());
     QVERIFY(output.contains("3 passed, 0 failed"));
 }

@@ -79,7 +79,7 @@ void CCustomAppStyleTest::toolTipOfTheApplicationShows()
     window.setToolTip(QStringLiteral("tip"));
     window.resize(100, 100);
     window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(QTest::qWaitForWindowActive(&window)); // others show no tip
     QElapsedTimer timer;
     timer.start();
     QTest::mouseMove(&window, QPoint(50, 50));

@@ -46,10 +46,12 @@ void CMsgBoxBackgroundTest::imageIsNeverDrawn()
 void CMsgBoxBackgroundTest::pixmapFollowsSizeLessBorders()
 {
     const QPixmap original(QStringLiteral(":/icon/ico_ttob_bg.png"));
+    QWidget window; // a window of its own has a smallest width on some systems
     CMsgBoxBackground panel;
+    panel.setParent(&window);
     QCOMPARE(panel.m_pixmapBackground.size(), original.size());
     panel.resize(102, 72);
-    panel.show();
+    window.show();
     QCOMPARE(panel.m_pixmapBackground.size(), original.isNull() ? QSize(0, 0) : QSize(100, 70));
     panel.resize(52, 300);
     QCOMPARE(panel.m_pixmapBackground.size(), original.isNull() ? QSize(0, 0) : QSize(50, 298));
@@ -57,8 +59,10 @@ void CMsgBoxBackgroundTest::pixmapFollowsSizeLessBorders()
 
 void CMsgBoxBackgroundTest::panelSmallerThanItsBordersIsHarmless()
 {
+    QWidget window;
     CMsgBoxBackground panel;
-    panel.show();
+    panel.setParent(&window);
+    window.show();
     panel.resize(1, 1);
     panel.resize(0, 0);
     QVERIFY(panel.m_pixmapBackground.width() <= 1);

@@ -459,7 +459,7 @@ void CVelmarMessageBoxTest::constructorLeavesBoxVisibleWithoutCheckBox()
 
 void CVelmarMessageBoxTest::constructorHandsPositionToHost()
 {
-    QWidget host;
+    QWidget host(nullptr, Qt::FramelessWindowHint); // the box is centred over the frame
     host.setGeometry(100, 60, 700, 500);
     host.show();
     const CVelmarMessageBox box(&host, 1, MsgIconPop1, QStringLiteral("t"), QStringLiteral("c"), false, false, {});
@@ -602,8 +602,12 @@ void CVelmarMessageBoxTest::missingCloseImagesAreNotReported()
 {
     static QStringList messages;
     messages.clear();
-    const QtMessageHandler before = qInstallMessageHandler(
-        [](QtMsgType, const QMessageLogContext&, const QString& message) { messages.append(message); });
+    const QtMessageHandler before =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& message) {
+            if (!message.startsWith(QLatin1String("EnableNonClientDpiScaling"))) { // Wine lacks it
+                messages.append(message);
+            }
+        });
     {
         const auto box = MakeBox(7);
         box->grab();
@@ -1554,6 +1558,9 @@ void CVelmarMessageBoxTest::openDirOffersFileOrFolder()
 
 void CVelmarMessageBoxTest::openDirFallsBackToParentFolder()
 {
+#ifdef Q_OS_WIN
+    QSKIP("Windows always finds its own file manager");
+#endif
     UrlCatcher urls;
     const QByteArray path = qgetenv("PATH");
     qputenv("PATH", "/no/such/folder");
