@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr qint64 kRotateBytes = 5 * 1024 * 1024;
+constexpr qint64 kRotateBytes = qint64(5) * 1024 * 1024;
 
 using Listener = std::function<void(const QString&)>;
 

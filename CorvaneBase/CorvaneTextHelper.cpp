@@ -21,7 +21,7 @@
 
 namespace {
 
-constexpr qint64 kLargestFile = 16 * 1024 * 1024;
+constexpr qint64 kLargestFile = qint64(16) * 1024 * 1024;
 
 // JSON has one kind of number, so what would come back as something else is wrapped in an object that names its type.
 const QString kTagDouble = QStringLiteral("double");
@@ -78,7 +78,8 @@ QVariant FromJson(const QJsonValue& json)
 {
     if (json.isArray()) {
         QVariantList list;
-        for (const QJsonValue& entry : json.toArray()) {
+        const QJsonArray entries = json.toArray();
+        for (const auto& entry : entries) {
             list.append(FromJson(entry));
         }
         return list;

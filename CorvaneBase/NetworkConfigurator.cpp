@@ -169,7 +169,7 @@ Result SearchOnce(System& system, const QList<Adapter>& adapters)
     Result failure = Failure(NetworkConfigurator::StatusNoAdapter,
                              Text("未找到已连接的有线网卡，请确认机床已开机，并已用数据线连接到电脑"));
     for (const Adapter& adapter : InOrderOfPromise(adapters)) {
-        const Result result = TryAdapter(system, adapter);
+        Result result = TryAdapter(system, adapter);
         switch (result.iStatus) {
         case NetworkConfigurator::StatusReady:
         case NetworkConfigurator::StatusNoRight:

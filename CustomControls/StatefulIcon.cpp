@@ -43,7 +43,7 @@ QString StatefulIcon::resolveDpiAwarePath(const QString& path, int size)
         return path;
     }
     if (ratio >= kTripleFrom) {
-        const QString triple = WithRatioTag(path, QStringLiteral("@3x"));
+        QString triple = WithRatioTag(path, QStringLiteral("@3x"));
         if (QFile::exists(triple)) {
             return triple;
         }

@@ -154,7 +154,7 @@ QPointer<CProgressWidget> CProgressWidget::CreateAutoWidget(QString text, QStrin
         QMessageBox::critical(nullptr, tr("关键逻辑错误"), message, QMessageBox::Ok);
         qFatal("%s", qUtf8Printable(message));
     }
-    const QPointer<CProgressWidget> widget = CreateWidgetPtr();
+    QPointer<CProgressWidget> widget = CreateWidgetPtr();
     widget->setProText(std::move(text), std::move(title));
     widget->HideCloseButton();
     widget->show();

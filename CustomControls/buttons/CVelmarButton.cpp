@@ -529,7 +529,8 @@ void CVelmarButton::RedrawBackground(QPainter& painter)
         painter.drawRoundedRect(rect(), m_iRadius, m_iRadius);
         break;
     case BackgroundGradient: {
-        QLinearGradient gradient(m_iWidth / 2, 0, m_iWidth / 2, m_iHeight);
+        const int middle = m_iWidth / 2;
+        QLinearGradient gradient(middle, 0, middle, m_iHeight);
         gradient.setColorAt(0.0, m_gradient[look].startColor);
         gradient.setColorAt(1.0, m_gradient[look].endColor);
         painter.setBrush(gradient);
