@@ -70,6 +70,9 @@ CPlainTextEdit::CPlainTextEdit(QWidget* parent)
                          QString(), QString());
     m_pMenu->AddMenuItem(tr("全选"), QString(), QStringLiteral("Ctrl+A"), QString(), QString());
     m_pMenu->hide();
+    for (const Row row : {RowCut, RowCopy, RowPaste, RowSelectAll}) {
+        m_pMenu->MenuButton(row)->SetChooseFocus(false); // brings the white style's dark text
+    }
 
     const auto connectRow = [this](Row row, auto action) {
         connect(m_pMenu->MenuButton(row), &CCustomMenuItem::SignalMenuItemClicked, this, [this, action] {

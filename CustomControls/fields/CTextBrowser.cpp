@@ -35,6 +35,7 @@ CTextBrowser::CTextBrowser(QWidget* parent)
     m_pMenu->AddMenuItem(tr("复制"), QStringLiteral(":/icon/icon/ico_data_copy_nor.png"), QStringLiteral("Ctrl+C"),
                          QString(), QString());
     m_pMenu->hide();
+    m_pMenu->MenuButton(0)->SetChooseFocus(false); // brings the white style's dark text
     connect(m_pMenu->MenuButton(0), &CCustomMenuItem::SignalMenuItemClicked, this, [this] {
         m_pMenu->hide();
         setFocus(); // the click on the row took it

@@ -7,9 +7,11 @@
 #include <CorvaneBase/CorvaneFonts.h>
 #include <CorvaneBase/CorvaneTextHelper.h>
 
+#include <QCoreApplication>
 #include <QCursor>
 #include <QEvent>
 #include <QFontMetrics>
+#include <QLayout>
 #include <QPointer>
 #include <QSet>
 
@@ -400,6 +402,7 @@ CCustomMenuItem* CCustomMenu::AddRow(const QString& text, const QString& shortcu
     m_iMaxShortcutWidth = std::max(m_iMaxShortcutWidth, metrics.horizontalAdvance(shortcut));
     row->SetMenuStyle(m_eMenuStyle);
 
+    PrepareLater(row);
     LayOutLater();
     ui->m_layoutWidgetMenu->addWidget(row, hasSubMenu ? kSubMenuRowStretch : kRowStretch);
     m_listButtons.append(row);
@@ -518,6 +521,39 @@ bool CCustomMenu::CursorLeftTowardsSubMenu(const CCustomMenuItem* item) const
     const QRect row = item->geometry();
     return cursor.x() - row.x() - row.width() >= -kSubMenuReach && cursor.y() >= row.top() &&
            cursor.y() <= row.bottom();
+}
+
+void CCustomMenu::PrepareLater(CCustomMenuItem* row)
+{
+    // A row's widgets post some ten requests to be polished and laid out, and for each layout the toolkit searches all
+    // the requests that wait: rows would cost more the more were added before. One call does for all rows of this turn.
+    const auto withdraw = [](QWidget* widget) {
+        QCoreApplication::removePostedEvents(widget, QEvent::PolishRequest);
+        QCoreApplication::removePostedEvents(widget, QEvent::LayoutRequest);
+    };
+    withdraw(row);
+    const QList<QWidget*> parts = row->findChildren<QWidget*>();
+    std::for_each(parts.cbegin(), parts.cend(), withdraw);
+    if (m_listNewRows.isEmpty()) {
+        QMetaObject::invokeMethod(this, &CCustomMenu::PrepareNewRows, Qt::QueuedConnection);
+    }
+    m_listNewRows.append(row);
+}
+
+void CCustomMenu::PrepareNewRows()
+{
+    const QList<QPointer<CCustomMenuItem>> rows = std::exchange(m_listNewRows, {});
+    for (const QPointer<CCustomMenuItem>& row : rows) {
+        if (!row) {
+            continue;
+        }
+        row->ensurePolished();
+        const QList<QWidget*> parts = row->findChildren<QWidget*>();
+        for (QWidget* part : parts) {
+            part->ensurePolished();
+        }
+        row->layout()->activate();
+    }
 }
 
 void CCustomMenu::LayOutLater()

@@ -5,6 +5,7 @@
 
 #include <QHash>
 #include <QList>
+#include <QPointer>
 #include <QString>
 #include <QWidget>
 
@@ -147,6 +148,8 @@ private:
     void OpenSubMenu(CCustomMenuItem* item, CCustomMenu* subMenu);
     void CloseSubMenu(CCustomMenuItem* item, CCustomMenu* subMenu);
     bool CursorLeftTowardsSubMenu(const CCustomMenuItem* item) const;
+    void PrepareLater(CCustomMenuItem* row);
+    void PrepareNewRows();
     void LayOutLater();
     void RefreshSizeLater();
     int HeightOf(int splitHeight, int rows) const;
@@ -167,5 +170,6 @@ private:
     CCustomMenu* m_pOpenSubMenu = nullptr;
     CCustomMenu* m_pParentMenu = nullptr;
 
+    QList<QPointer<CCustomMenuItem>> m_listNewRows;
     int m_iWaitingLayouts = 0;
 };

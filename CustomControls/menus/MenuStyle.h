@@ -7,7 +7,7 @@
  * menu->SetMenuStyle(MenuStyleWhite);
  * @endcode
  */
-enum MenuStyle
+enum MenuStyle : int
 {
     MenuStyleFlat = 0,  ///< a light panel without border
     MenuStyleDark = 1,  ///< a dark panel, what every menu starts with

@@ -137,6 +137,7 @@ void CPlainTextEditTest::rowsAreLabelledInTheSettledOrder()
     QCOMPARE(item->m_strIcon, icon);
     QVERIFY(item->m_strIconHover.isEmpty() && item->m_strIconDisabled.isEmpty());
     QVERIFY(item->ui->m_labelIcon->pixmap().isNull());
+    QVERIFY(item->ui->m_labelText->styleSheet().contains(QLatin1String("color:#202020;")));
 }
 
 void CPlainTextEditTest::menuOpensAtThePosition()

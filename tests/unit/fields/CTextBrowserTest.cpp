@@ -68,6 +68,7 @@ void CTextBrowserTest::menuIsWhiteAndHasOneRow()
     QCOMPARE(row->ui->m_labelText->text(), QStringLiteral("复制"));
     QCOMPARE(row->ui->m_labelShortCut->text(), QStringLiteral(":/icon/icon/ico_data_copy_nor.png"));
     QCOMPARE(row->m_strIcon, QStringLiteral("Ctrl+C"));
+    QVERIFY(row->ui->m_labelText->styleSheet().contains(QLatin1String("color:#202020;")));
     QCOMPARE(m_browser->contextMenuPolicy(), Qt::CustomContextMenu);
     QCOMPARE(m_browser->styleSheet(), QString());
 }
