@@ -8,6 +8,7 @@
 #include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QMainWindow>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QResizeEvent>
 #include <QTextOption>
@@ -27,6 +28,9 @@ constexpr QColor kLight(255, 255, 255);
 constexpr QColor kGroupCaption(153, 153, 153);
 constexpr int kGroupCaptionHeight = 20;
 constexpr int kBehindLastButton = 4;
+constexpr Qt::Alignment kGroupCaptionAlignment = Qt::AlignHCenter | Qt::AlignVCenter;
+// A glyph may reach a little beyond its own measure.
+constexpr int kGlyphOverhang = 8;
 
 } // namespace
 
@@ -78,7 +82,7 @@ QSize CToolBar::sizeHint() const
     return {QToolBar::sizeHint().width(), m_eMode == ToolBarModeBlock ? kBlockHeight : kSlimHeight};
 }
 
-void CToolBar::paintEvent(QPaintEvent*)
+void CToolBar::paintEvent(QPaintEvent* event)
 {
     const QRect r = rect();
     // A bar without a parent, or floating, is a row of its own.
@@ -112,7 +116,10 @@ void CToolBar::paintEvent(QPaintEvent*)
     painter.setFont(FontCnMedium_11);
     painter.setPen(kGroupCaption);
     painter.setBrush(Qt::NoBrush);
-    painter.drawText(area, property("GroupName").toString(), QTextOption(Qt::AlignHCenter | Qt::AlignVCenter));
+    const QString caption = property("GroupName").toString();
+    if (event->region().intersects(GroupCaptionPlace(painter, area, caption))) {
+        painter.drawText(area, caption, QTextOption(kGroupCaptionAlignment));
+    }
 }
 
 void CToolBar::resizeEvent(QResizeEvent* event)
@@ -158,4 +165,17 @@ int CToolBar::RightmostButtonEdge() const
         }
     }
     return edge;
+}
+
+// Where the group caption leaves pixels; beyond the area, too, when it is too long for it.
+QRect CToolBar::GroupCaptionPlace(QPainter& painter, const QRect& area, const QString& caption)
+{
+    if (m_rectMeasuredArea != area || m_strMeasuredCaption != caption) {
+        m_rectMeasuredArea = area;
+        m_strMeasuredCaption = caption;
+        m_rectGroupCaption = painter.boundingRect(QRectF(area), caption, QTextOption(kGroupCaptionAlignment))
+                                 .toAlignedRect()
+                                 .adjusted(-kGlyphOverhang, -kGlyphOverhang, kGlyphOverhang, kGlyphOverhang);
+    }
+    return m_rectGroupCaption;
 }

@@ -4,9 +4,12 @@
 
 #include <QList>
 #include <QPointer>
+#include <QRect>
+#include <QString>
 #include <QToolBar>
 
 class CToolButton;
+class QPainter;
 class QToolButton;
 
 /**
@@ -69,6 +72,11 @@ protected:
 
 private:
     int RightmostButtonEdge() const;
+    QRect GroupCaptionPlace(QPainter& painter, const QRect& area, const QString& caption);
 
     QPointer<QStyle> m_pStyle;
+    // The group caption as it was last measured: whether a repaint touches it is asked for every hovered button.
+    QString m_strMeasuredCaption;
+    QRect m_rectMeasuredArea;
+    QRect m_rectGroupCaption;
 };

@@ -38,7 +38,8 @@ public:
     /**
      * Describes a large button.
      *
-     * @param iconPath         picture file; one that is missing makes a button without picture
+     * @param iconPath         picture file, shown at its own size: 24 pixels leave room for the caption; one that is
+     *                         missing makes a button without picture
      * @param text             caption, with line feeds where lines are to break; may be empty
      * @param type             the host's own, counted and not kept
      * @param disabledIconPath picture of the disabled button; empty for the same

@@ -46,6 +46,7 @@ private Q_SLOTS:
     void tallBarHasAGroundOfItsOwn();
     void groupCaptionStandsAtTheBottom();
     void groupCaptionIsCentredInTheBar();
+    void partialRepaintsAddUpToTheWhole();
     void fixedWidthNarrowsTheCaptionArea();
     void lastBarCentresItsCaptionUnderItsButtons();
     void lastBarReachesBehindAStack();
@@ -239,6 +240,28 @@ void CToolBarTest::groupCaptionIsCentredInTheBar()
     QVERIFY(std::abs(CaptionMiddle(bar) - 50) <= 1);
     bar.setGeometry(50, 0, 160, 78);
     QVERIFY(std::abs(CaptionMiddle(bar) - 80) <= 1);
+}
+
+void CToolBarTest::partialRepaintsAddUpToTheWhole()
+{
+    QWidget row;
+    row.resize(300, 78);
+    CToolBar bar(CToolBar::ToolBarModeBlock, &row);
+    bar.setGeometry(100, 0, 60, 78);
+    // The long one wraps and reaches far above its area.
+    for (const QString& name : {QString(), Painted::Blocks(2), QStringLiteral("a group caption of far too many words"),
+                                QString(40, QLatin1Char('W'))}) {
+        bar.setProperty("GroupName", name);
+        const QImage whole = Painted::Of(bar, kGround);
+        QImage parts(bar.size(), QImage::Format_ARGB32_Premultiplied);
+        parts.fill(kGround);
+        for (int y = 0; y < bar.height(); y += 6) {
+            for (int x = 0; x < bar.width(); x += 6) {
+                bar.render(&parts, QPoint(x, y), QRegion(x, y, 6, 6), QWidget::RenderFlags());
+            }
+        }
+        QCOMPARE(parts.convertToFormat(QImage::Format_RGB32), whole);
+    }
 }
 
 void CToolBarTest::fixedWidthNarrowsTheCaptionArea()
