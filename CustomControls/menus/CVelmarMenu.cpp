@@ -1,0 +1,603 @@
+#include <CustomControls/menus/CVelmarMenu.h>
+
+#include "ui_CVelmarMenu.h"
+
+#include <CustomControls/buttons/CVelmarButton.h>
+#include <CustomControls/menus/CVelmarMenuItem.h>
+
+#include <CorvaneBase/CorvaneFonts.h>
+
+#include <QPointer>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSet>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <utility>
+
+namespace {
+
+constexpr int kRowStretch = 4;
+constexpr int kListRowStretch = 0;
+constexpr int kGap = 4;
+constexpr int kRowsInScrollArea = 5;
+constexpr int kRowHeightSurplus = 2;
+// The panel's margins: left and right together, top and bottom together.
+constexpr int kSideMargins = 2;
+constexpr int kEndMargins = 8;
+
+constexpr int kSplitHeight = 9;
+constexpr int kLineTop = 4;
+constexpr int kLineHeight = 1;
+
+// One sheet for each style, in the order of MenuStyle.
+using SheetsOfStyles = std::array<QString, 3>;
+
+const SheetsOfStyles kPanelSheets = {
+    QStringLiteral("QWidget#m_widgetMenu{background-color:#FFFFFF;border:none;border-radius:0px;}"),
+    QStringLiteral("QWidget#m_widgetMenu{background-color:#212024;border:1px solid #151515;border-radius:2px;}"),
+    QStringLiteral("QWidget#m_widgetMenu{background-color:#FFFFFF;border:1px solid #AAAAAA;border-radius:0px;}"),
+};
+const QString kDarkButtonSheet =
+    QStringLiteral("QPushButton{background:#212024;color:#c7cfd6;border:none;text-align:left;padding-left:8px;}"
+                   "QPushButton::hover{background:#0071bc;color:#c7cfd6;}QPushButton::disabled{color:#999999;}");
+const SheetsOfStyles kButtonSheets = {
+    QStringLiteral(
+        "QPushButton{background:#F9F9F9;color:#202020;border:none;text-align:left;padding-left:8px;border-radius:2px;}"
+        "QPushButton::hover{background:#0071bc;color:#FFFFFF;}QPushButton::disabled{color:#999999;}"),
+    kDarkButtonSheet,
+    QStringLiteral(
+        "QPushButton{background:#FFFFFF;color:#202020;border:none;text-align:left;padding-left:8px;border-radius:0px;}"
+        "QPushButton::hover{background:#0071bc;color:#FFFFFF;}QPushButton::disabled{color:#999999;}"),
+};
+const SheetsOfStyles kListButtonSheets = {
+    QStringLiteral(
+        "QPushButton{background:#F0F0F0;color:#202020;border:none;text-align:left;padding-left:8px;border-radius:2px;}"
+        "QPushButton::hover{background:#0071bc;color:#FFFFFF;}QPushButton::disabled{color:#999999;}"),
+    kDarkButtonSheet,
+    QStringLiteral("QPushButton{background:#FFFFFF;color:#202020;border:none;text-align:left;padding-left:8px;}"
+                   "QPushButton::hover{background:#0071bc;color:#FFFFFF;}QPushButton::disabled{color:#999999;}"),
+};
+// The 32 pixels on the right make room for a combo box's arrow: the text is centred over the box's text.
+const SheetsOfStyles kCentredButtonSheets = {
+    QStringLiteral("QPushButton{background:#F0F0F0;color:#2A2929;border:none;text-align:center;padding-left:8px;"
+                   "padding-right:32px;}"
+                   "QPushButton::hover{background:#0071bc;color:#FFFFFF;}QPushButton::disabled{color:#999999;}"),
+    QStringLiteral("QPushButton{background:#212024;color:#c7cfd6;border:none;text-align:center;padding-left:8px;"
+                   "padding-right:8px;}"
+                   "QPushButton::hover{background:#0071bc;color:#c7cfd6;}QPushButton::disabled{color:#999999;}"),
+    QStringLiteral("QPushButton{background:#FFFFFF;color:#2A2929;border:none;text-align:center;padding-left:8px;"
+                   "padding-right:32px;}"
+                   "QPushButton::hover{background:#0071bc;color:#FFFFFF;}QPushButton::disabled{color:#999999;}"),
+};
+
+const QString kScrollAreaSheet =
+    QStringLiteral("QScrollArea{border:none;padding:0px;margin:0px;background:transparent;}");
+const QString kScrollBarSheet = QStringLiteral(
+    "QScrollBar:vertical{min-width:7px;max-width:8px;border:none; background:#FFFFFF;color:rgba(0,0,0,0);"
+    "padding-left:0px;padding-right:1px;min-height:30px;}"
+    "QScrollBar::handle:vertical{width:7px;background:rgb(165,171,183);max-height:400;min-height:50;"
+    "border-radius:3px;border:none;}"
+    "QScrollBar::handle:vertical:hover{background:rgb(155,151,163);max-height:400;min-height:50;"
+    "border-radius:3px;border:none;}"
+    "QScrollBar::add-line:vertical{border:0px solid rgb(220,0,220);background:#FFFFFF;height:0px;"
+    "subcontrol-origin:margin;}"
+    "QScrollBar::sub-line:vertical{border:0px solid rgb(20,220,220);background:#FFFFFF;height:0px;"
+    "subcontrol-origin:margin;}"
+    "QScrollBar::add-page::vertical,QScrollBar::sub-page:vertical{background:#FFFFFF;width:0px;height:0px;}");
+const QString kSplitSheet = QStringLiteral("background:transparent;");
+const QString kLineSheet = QStringLiteral("background:rgb(217, 217, 217);");
+
+// Null for a value that is no style.
+const QString* SheetOf(const SheetsOfStyles& sheets, MenuStyle style)
+{
+    const int index = int(style);
+    return index >= 0 && index < int(sheets.size()) ? &sheets[std::size_t(index)] : nullptr;
+}
+
+int WidgetSize(qint64 pixels)
+{
+    return int(std::clamp<qint64>(pixels, 0, QWIDGETSIZE_MAX));
+}
+
+// Whether a row or separator itself is enabled, whatever the menu or its window is.
+bool IsEnabledItself(const QWidget* entry)
+{
+    return entry->isEnabledTo(entry->parentWidget());
+}
+
+} // namespace
+
+CVelmarMenu* CVelmarMenu::m_pCurrentShowMenu = nullptr;
+
+CVelmarMenu::CVelmarMenu(QWidget* parent)
+    : QWidget(parent)
+    , m_font(FontCn_14)
+    , ui(new Ui::CVelmarMenu)
+{
+    ui->setupUi(this);
+    ui->m_layoutWidgetMenu->setSpacing(kGap);
+    setFocusPolicy(Qt::ClickFocus);
+}
+
+CVelmarMenu::~CVelmarMenu()
+{
+    if (m_pCurrentShowMenu == this) {
+        m_pCurrentShowMenu = nullptr;
+    }
+    // Rows and separators go after this object's own fields and must not report to them any more.
+    const auto forget = [this](const auto& entries) {
+        for (QWidget* entry : entries) {
+            entry->disconnect(this);
+        }
+    };
+    forget(m_listButtons);
+    forget(m_listItems);
+    forget(m_listSplitLines);
+    delete ui;
+}
+
+void CVelmarMenu::SetWindowWidth(int width)
+{
+    m_iWidth = width;
+    FitRows();
+}
+
+void CVelmarMenu::SetWindowHeight(int height)
+{
+    m_iItemHeight = std::min(height, std::numeric_limits<int>::max() - kRowHeightSurplus) + kRowHeightSurplus;
+    FitRows();
+}
+
+void CVelmarMenu::SetMenuStyle(MenuStyle style)
+{
+    m_eMenuStyle = style;
+    if (const QString* sheet = SheetOf(kPanelSheets, style)) {
+        ui->m_widgetMenu->setStyleSheet(*sheet);
+    }
+}
+
+void CVelmarMenu::AddMenuButton(CVelmarButton* button)
+{
+    if (button && !m_listButtons.contains(button)) {
+        AddButton(button, ui->m_layoutWidgetMenu, kRowStretch);
+        UpdateMenuSize();
+    }
+}
+
+void CVelmarMenu::AddDefaultButton(const QString& text)
+{
+    // Made where the layout would put it anyway, which costs less than to move it there.
+    AddButton(MakeButton(text, ui->m_widgetMenu, SheetOf(kButtonSheets, m_eMenuStyle)), ui->m_layoutWidgetMenu,
+              kRowStretch);
+    UpdateMenuSize();
+}
+
+void CVelmarMenu::AddListWidgetButton(const QString& text)
+{
+    if (!m_pScrollArea) {
+        BuildScrollArea();
+    }
+    AddButton(MakeButton(text, m_pScrollWidget, SheetOf(kListButtonSheets, m_eMenuStyle)), m_pScrollLayout,
+              kListRowStretch);
+    FitScrollWidget();
+    m_pScrollArea->setWidget(m_pScrollWidget);
+    UpdateMenuSize();
+}
+
+void CVelmarMenu::AddMenuItem(const QString& text, const QString& icon, const QString& shortcut)
+{
+    auto* item = new CVelmarMenuItem(ui->m_widgetMenu, text, shortcut, icon, QString(), false);
+    item->SetMenuStyle(m_eMenuStyle);
+    item->SetItemSize(m_iWidth, m_iItemHeight, 0, 0);
+    connect(item, &QObject::destroyed, this, [this, item] { ItemGone(item); });
+    connect(item, &CVelmarMenuItem::SignalMenuBtnFocus, this, [this](bool focus) {
+        const QPointer<CVelmarMenu> self(this);
+        Q_EMIT SignalMenuBtnFocus(focus);
+        if (self && !focus) {
+            hide();
+        }
+    });
+
+    LayOutLater();
+    ui->m_layoutWidgetMenu->addWidget(item, kRowStretch);
+    ShowIfOpen(item);
+    m_listItems.append(item);
+    ++m_iRowCount;
+    UpdateMenuSize();
+}
+
+QWidget* CVelmarMenu::AddSplitLine()
+{
+    auto* split = new QWidget;
+    const int width = WidgetSize(m_iWidth);
+    split->setFixedSize(width, kSplitHeight);
+    split->setStyleSheet(kSplitSheet);
+    auto* line = new QWidget(split);
+    line->setGeometry(0, kLineTop, width, kLineHeight);
+    line->setStyleSheet(kLineSheet);
+    connect(split, &QObject::destroyed, this, [this, split] { SplitLineGone(split); });
+
+    LayOutLater();
+    ui->m_layoutWidgetMenu->addWidget(split, kRowStretch);
+    ShowIfOpen(split);
+    m_listSplitLines.append(split);
+    ++m_iSplitCount;
+    UpdateMenuSize();
+    return split;
+}
+
+void CVelmarMenu::RefreshSize(int extraRows, int extraSplits)
+{
+    // No more than a widget's height counts, so that no product leaves the range.
+    const auto bounded = [](qint64 value) { return std::clamp<qint64>(value, -QWIDGETSIZE_MAX, QWIDGETSIZE_MAX); };
+    setFixedSize(m_iWidth, WidgetSize(bounded(qint64(m_iSplitCount) + extraSplits) * kSplitHeight +
+                                      bounded(qint64(m_iRowCount) + extraRows) * m_iItemHeight + kEndMargins));
+}
+
+QPushButton* CVelmarMenu::MenuButton(int index)
+{
+    return m_listButtons.value(index);
+}
+
+CVelmarMenuItem* CVelmarMenu::MenuItem(int index)
+{
+    return m_listItems.value(index);
+}
+
+int CVelmarMenu::MenuButtonCount()
+{
+    return int(m_listButtons.size());
+}
+
+int CVelmarMenu::MenuItemCount()
+{
+    return int(m_listItems.size());
+}
+
+int CVelmarMenu::GetButtonIndex(QPushButton* button)
+{
+    return int(m_listButtons.indexOf(button));
+}
+
+void CVelmarMenu::SetMenuItemFont(const QFont& text, const QFont& shortcut)
+{
+    for (CVelmarMenuItem* item : std::as_const(m_listItems)) {
+        item->SetMenuFont(text, shortcut);
+    }
+}
+
+void CVelmarMenu::RemoveMenuButton(int index)
+{
+    QPushButton* button = MenuButton(index);
+    if (!button) {
+        return;
+    }
+    m_listButtons.removeAt(index);
+    --m_iRowCount;
+    button->disconnect(this);
+    // A button that has the focus passes it on as it goes, and whoever hears of it may end the menu.
+    const QPointer<CVelmarMenu> self(this);
+    delete button;
+    if (self) {
+        FitScrollWidget();
+        UpdateMenuSize();
+    }
+}
+
+void CVelmarMenu::RemoveAllMenuButtons()
+{
+    QList<QPointer<QWidget>> entries;
+    const auto take = [this, &entries](auto& list) {
+        for (QWidget* entry : std::as_const(list)) {
+            entry->disconnect(this);
+            entries.append(entry);
+        }
+        list.clear();
+    };
+    take(m_listButtons);
+    take(m_listSplitLines);
+    take(m_listItems);
+    m_iRowCount = 0;
+    m_iSplitCount = 0;
+    const QPointer<CVelmarMenu> self(this);
+    for (const QPointer<QWidget>& entry : std::as_const(entries)) {
+        delete entry.data();
+    }
+    if (!self) {
+        return;
+    }
+    // Before the scroll area goes: an emptied list keeps its size until the next row.
+    UpdateMenuSize();
+    m_pScrollWidget = nullptr;
+    m_pScrollLayout = nullptr;
+    delete std::exchange(m_pScrollArea, nullptr);
+}
+
+void CVelmarMenu::SetTextAlignment(QFlags<Qt::AlignmentFlag> alignment)
+{
+    Q_UNUSED(alignment)
+    if (const QString* sheet = SheetOf(kCentredButtonSheets, m_eMenuStyle)) {
+        for (QPushButton* button : std::as_const(m_listButtons)) {
+            button->setStyleSheet(*sheet);
+        }
+    }
+}
+
+void CVelmarMenu::SetFont(QFont font)
+{
+    m_font = font;
+    for (QPushButton* button : std::as_const(m_listButtons)) {
+        button->setFont(font);
+    }
+}
+
+void CVelmarMenu::HideMenuBtn(const QList<int>& indexes)
+{
+    SetPresent(m_listButtons, indexes, false);
+}
+
+void CVelmarMenu::ShowMenuBtn(const QList<int>& indexes)
+{
+    SetPresent(m_listButtons, indexes, true);
+}
+
+void CVelmarMenu::HideMenuItem(const QList<int>& indexes)
+{
+    SetPresent(m_listItems, indexes, false);
+}
+
+void CVelmarMenu::ShowMenuItem(const QList<int>& indexes)
+{
+    SetPresent(m_listItems, indexes, true);
+}
+
+void CVelmarMenu::HideSplitLine(int index)
+{
+    QWidget* line = m_listSplitLines.value(index);
+    if (line && IsEnabledItself(line)) {
+        line->hide();
+        line->setEnabled(false);
+        --m_iSplitCount;
+        UpdateMenuSize();
+    }
+}
+
+void CVelmarMenu::ShowSplitLine(int index)
+{
+    QWidget* line = m_listSplitLines.value(index);
+    if (line && !IsEnabledItself(line)) {
+        line->show();
+        line->setEnabled(true);
+        ++m_iSplitCount;
+        UpdateMenuSize();
+    }
+}
+
+void CVelmarMenu::show()
+{
+    const QPointer<CVelmarMenu> self(this);
+    if (m_pCurrentShowMenu && m_pCurrentShowMenu->isVisible()) {
+        QWidget* previous = std::exchange(m_pCurrentShowMenu, nullptr);
+        previous->hide();
+    }
+    if (self) {
+        m_pCurrentShowMenu = this;
+        QWidget::show();
+    }
+}
+
+void CVelmarMenu::hide()
+{
+    // Whoever holds it: from now on no menu counts as the open one.
+    m_pCurrentShowMenu = nullptr;
+    QWidget::hide();
+}
+
+void CVelmarMenu::mousePressEvent(QMouseEvent* event)
+{
+    QWidget::mousePressEvent(event);
+    Q_EMIT SignalMenuBtnFocus(true);
+}
+
+void CVelmarMenu::setFixedSize(const QSize& size)
+{
+    setFixedSize(size.width(), size.height());
+}
+
+void CVelmarMenu::setFixedSize(int width, int height)
+{
+    QWidget::setFixedSize(WidgetSize(qint64(width) + kSideMargins), height);
+}
+
+QPushButton* CVelmarMenu::MakeButton(const QString& text, QWidget* parent, const QString* sheet)
+{
+    auto* button = new QPushButton(text, parent);
+    // In a dialog it would otherwise become what Return clicks.
+    button->setAutoDefault(false);
+    button->setFixedSize(WidgetSize(m_iWidth), WidgetSize(m_iItemHeight));
+    if (sheet) {
+        button->setFont(m_font);
+        button->setStyleSheet(*sheet);
+    }
+    return button;
+}
+
+void CVelmarMenu::AddButton(QPushButton* button, QVBoxLayout* layout, int stretch)
+{
+    connect(button, &QObject::destroyed, this, [this, button] { ButtonGone(button); });
+    LayOutLater();
+    layout->addWidget(button, stretch);
+    ShowIfOpen(button);
+    m_listButtons.append(button);
+    ++m_iRowCount;
+}
+
+void CVelmarMenu::BuildScrollArea()
+{
+    m_pScrollArea = new QScrollArea(ui->m_widgetMenu);
+    m_pScrollArea->setStyleSheet(kScrollAreaSheet);
+    m_pScrollArea->setContentsMargins(0, 0, 0, 0);
+    m_pScrollArea->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    m_pScrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_pScrollArea->verticalScrollBar()->setStyleSheet(kScrollBarSheet);
+    m_pScrollWidget = new QWidget(m_pScrollArea->viewport());
+    m_pScrollLayout = new QVBoxLayout(m_pScrollWidget);
+    m_pScrollLayout->setContentsMargins(0, 0, 0, 0);
+    m_pScrollLayout->setSpacing(0);
+
+    LayOutLater();
+    ui->m_layoutWidgetMenu->addWidget(m_pScrollArea, kRowStretch);
+    ShowIfOpen(m_pScrollArea);
+}
+
+void CVelmarMenu::FitScrollWidget()
+{
+    if (m_pScrollWidget) {
+        m_pScrollWidget->setFixedSize(WidgetSize(m_iWidth), WidgetSize(qint64(m_iRowCount) * m_iItemHeight));
+    }
+}
+
+void CVelmarMenu::FitRows()
+{
+    for (QPushButton* button : std::as_const(m_listButtons)) {
+        button->setFixedSize(WidgetSize(m_iWidth), WidgetSize(m_iItemHeight));
+    }
+    for (CVelmarMenuItem* item : std::as_const(m_listItems)) {
+        item->SetItemSize(m_iWidth, m_iItemHeight, 0, 0);
+    }
+    FitScrollWidget();
+    UpdateMenuSize();
+}
+
+void CVelmarMenu::UpdateMenuSize()
+{
+    if (m_pScrollArea) {
+        const int height = WidgetSize(qint64(kRowsInScrollArea) * m_iItemHeight);
+        m_pScrollArea->setFixedSize(WidgetSize(m_iWidth), height);
+        setFixedSize(QSize(m_iWidth, WidgetSize(qint64(height) + kEndMargins)));
+        return;
+    }
+    setFixedSize(QSize(m_iWidth, WidgetSize(qint64(m_iRowCount) * m_iItemHeight +
+                                            (qint64(m_iRowCount) + 1 + m_iSplitCount) * kGap +
+                                            qint64(m_iSplitCount) * kSplitHeight)));
+}
+
+void CVelmarMenu::UpdateMenuSizeLater()
+{
+    // The layout still holds an entry that is just being deleted, and must not be asked for its size.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            FitScrollWidget();
+            UpdateMenuSize();
+        },
+        Qt::QueuedConnection);
+}
+
+void CVelmarMenu::LayOutLater()
+{
+    if (!isVisible()) {
+        return;
+    }
+    // On the screen each new row would lay out all the others anew. One layout after the last of them leads to the
+    // same.
+    const auto setLayoutsEnabled = [this](bool enabled) {
+        ui->m_layoutWidgetMenu->setEnabled(enabled);
+        if (m_pScrollLayout) {
+            m_pScrollLayout->setEnabled(enabled);
+        }
+    };
+    setLayoutsEnabled(false);
+    ++m_iWaitingLayouts;
+    QMetaObject::invokeMethod(
+        this,
+        [this, setLayoutsEnabled] {
+            if (--m_iWaitingLayouts > 0) {
+                return;
+            }
+            setLayoutsEnabled(true);
+            for (QLayout* layout :
+                 {static_cast<QLayout*>(m_pScrollLayout), static_cast<QLayout*>(ui->m_layoutWidgetMenu)}) {
+                if (layout) {
+                    layout->invalidate();
+                    layout->activate();
+                }
+            }
+        },
+        Qt::QueuedConnection);
+}
+
+void CVelmarMenu::ShowIfOpen(QWidget* entry)
+{
+    // The toolkit would do it in the next turn of the event loop; until then the entry would count as hidden.
+    const bool hiddenByHost = entry->isHidden() && entry->testAttribute(Qt::WA_WState_ExplicitShowHide);
+    if (isVisible() && !hiddenByHost) {
+        entry->show();
+    }
+}
+
+void CVelmarMenu::ButtonGone(QPushButton* button)
+{
+    if (m_listButtons.removeOne(button)) {
+        --m_iRowCount;
+        UpdateMenuSizeLater();
+    }
+}
+
+void CVelmarMenu::ItemGone(CVelmarMenuItem* item)
+{
+    if (m_listItems.removeOne(item)) {
+        --m_iRowCount;
+        UpdateMenuSizeLater();
+    }
+}
+
+void CVelmarMenu::SplitLineGone(QWidget* line)
+{
+    if (m_listSplitLines.removeOne(line)) {
+        m_iSplitCount = int(std::count_if(m_listSplitLines.cbegin(), m_listSplitLines.cend(), IsEnabledItself));
+        UpdateMenuSizeLater();
+    }
+}
+
+template <typename Row>
+void CVelmarMenu::SetPresent(const QList<Row*>& rows, const QList<int>& indexes, bool present)
+{
+    const QSet<int> wanted(indexes.cbegin(), indexes.cend());
+    const int count = int(rows.size());
+    QList<QPointer<QWidget>> named;
+    for (int index = 0; index < count; ++index) {
+        if (wanted.contains(index) || wanted.contains(index - count)) {
+            named.append(rows.at(index));
+        }
+    }
+    // A focus that has to move on is heard by the host, who may delete rows or the menu.
+    const QPointer<CVelmarMenu> self(this);
+    for (const QPointer<QWidget>& row : std::as_const(named)) {
+        if (!self) {
+            return;
+        }
+        if (!row) {
+            continue;
+        }
+        const bool enabled = IsEnabledItself(row);
+        const bool shown = !row->isHidden();
+        if (present ? enabled && shown : !enabled && !shown) {
+            continue;
+        }
+        m_iRowCount += present ? 1 : -1;
+        row->setEnabled(present);
+        if (row) {
+            row->setVisible(present);
+        }
+    }
+    if (self) {
+        FitScrollWidget();
+        UpdateMenuSize();
+    }
+}
