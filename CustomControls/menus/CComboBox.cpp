@@ -122,16 +122,10 @@ void CComboBox::AddComboItem(const QString& text)
     }
 
     // One more than the plain list takes: all of them move to the scrolling one.
-    const QPointer<CComboBox> self(this);
     const QList<QString> texts = m_listItems;
     RemoveAllItems();
-    if (self) {
-        m_bListMode = true;
-    }
+    m_bListMode = true;
     for (const QString& entry : texts) {
-        if (!self) {
-            return;
-        }
         AddListItem(entry);
     }
 }
@@ -142,40 +136,31 @@ void CComboBox::RemoveItem(const QString& text)
     if (index == -1) {
         return;
     }
-    const QPointer<CComboBox> self(this);
     m_listItems.removeAt(index);
     if (m_bListMode && m_listItems.size() == m_iMaxItemCount) {
         const QList<QString> texts = m_listItems;
         RemoveAllItems();
         for (const QString& entry : texts) {
-            if (!self) {
-                return;
-            }
             AddComboItem(entry);
         }
         return;
     }
-    // The list first: whoever hears of the box's change finds both the same, and may delete the box.
+    // The list first: whoever hears of the box's change finds both the same.
     if (m_pMenu) {
         m_pMenu->RemoveMenuButton(index);
     }
-    if (self) {
-        removeItem(index);
-    }
+    removeItem(index);
 }
 
 void CComboBox::RemoveAllItems()
 {
-    const QPointer<CComboBox> self(this);
     m_bListMode = false;
     m_listItems.clear();
     if (m_pMenu) {
         m_pMenu->RemoveAllMenuButtons();
     }
-    if (self) {
-        SetListWidth(m_iBoxWidth);
-        clear();
-    }
+    SetListWidth(m_iBoxWidth);
+    clear();
 }
 
 void CComboBox::SetBoxSize(int width, int height, int menuItemHeight)
@@ -247,6 +232,9 @@ bool CComboBox::eventFilter(QObject* obj, QEvent* event)
     switch (event->type()) {
     case QEvent::FocusOut:
         // To drag the scroll bar must not close the list.
+        if (obj != this && obj != m_pMenu) {
+            break;
+        }
         if (IsCursorOnScrollBar()) {
             setFocus();
             return true;
@@ -322,12 +310,10 @@ void CComboBox::SlotChangeItem()
     if (!m_pMenu) {
         return;
     }
-    const QPointer<CComboBox> self(this);
-    const QPointer<CVelmarMenu> list(m_pMenu);
     setCurrentIndex(m_pMenu->GetButtonIndex(qobject_cast<QPushButton*>(sender())));
-    // Whoever hears of the choice may delete the box, which takes its open list down, or the list's window.
-    if (self && list) {
-        list->hide();
+    // Whoever hears of the choice may end the list's window.
+    if (m_pMenu) {
+        m_pMenu->hide();
     }
 }
 

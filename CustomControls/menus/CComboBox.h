@@ -20,7 +20,8 @@ class CComboBox;
  * The list lies in the window that holds the box, or in the panel named "CModuleNewProject" within it, so that nothing
  * between clips it. Up to a maximum number of entries it is plain, beyond it scrolls. Entries go through the operations
  * of this class, for the list and the box have to hold the same; everything else (current index, signals) is that of a
- * QComboBox. The list belongs to its window and outlives the box; box, list and window may go in any order.
+ * QComboBox. The list belongs to its window and outlives the box; box, list and window may go in any order. Only from
+ * the box's own signals it is ended by deleteLater(), as every QComboBox.
  *
  * @code
  * auto* box = new CComboBox(panel);

@@ -7,6 +7,7 @@
 
 #include <CorvaneBase/CorvaneFonts.h>
 
+#include <QMouseEvent>
 #include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
@@ -280,6 +281,7 @@ void CVelmarMenu::RemoveMenuButton(int index)
     m_listButtons.removeAt(index);
     --m_iRowCount;
     button->disconnect(this);
+    SetLayoutsEnabled(true);
     // A button that has the focus passes it on as it goes, and whoever hears of it may end the menu.
     const QPointer<CVelmarMenu> self(this);
     delete button;
@@ -304,6 +306,7 @@ void CVelmarMenu::RemoveAllMenuButtons()
     take(m_listItems);
     m_iRowCount = 0;
     m_iSplitCount = 0;
+    SetLayoutsEnabled(true);
     const QPointer<CVelmarMenu> self(this);
     for (const QPointer<QWidget>& entry : std::as_const(entries)) {
         delete entry.data();
@@ -401,7 +404,12 @@ void CVelmarMenu::hide()
 void CVelmarMenu::mousePressEvent(QMouseEvent* event)
 {
     QWidget::mousePressEvent(event);
+    const QPointer<CVelmarMenu> self(this);
     Q_EMIT SignalMenuBtnFocus(true);
+    if (!self) {
+        // The toolkit must not look for the parent of what is gone.
+        event->accept();
+    }
 }
 
 void CVelmarMenu::setFixedSize(const QSize& size)
@@ -506,30 +514,40 @@ void CVelmarMenu::LayOutLater()
     }
     // On the screen each new row would lay out all the others anew. One layout after the last of them leads to the
     // same.
-    const auto setLayoutsEnabled = [this](bool enabled) {
-        ui->m_layoutWidgetMenu->setEnabled(enabled);
-        if (m_pScrollLayout) {
-            m_pScrollLayout->setEnabled(enabled);
-        }
-    };
-    setLayoutsEnabled(false);
+    SetLayoutsEnabled(false);
     ++m_iWaitingLayouts;
     QMetaObject::invokeMethod(
         this,
-        [this, setLayoutsEnabled] {
+        [this] {
             if (--m_iWaitingLayouts > 0) {
                 return;
             }
-            setLayoutsEnabled(true);
-            for (QLayout* layout :
-                 {static_cast<QLayout*>(m_pScrollLayout), static_cast<QLayout*>(ui->m_layoutWidgetMenu)}) {
-                if (layout) {
-                    layout->invalidate();
-                    layout->activate();
-                }
+            SetLayoutsEnabled(true);
+            if (m_pScrollLayout) {
+                m_pScrollLayout->invalidate();
+                m_pScrollLayout->activate();
             }
+            ui->m_layoutWidgetMenu->invalidate();
+            ui->m_layoutWidgetMenu->activate();
         },
         Qt::QueuedConnection);
+}
+
+// A layout that waits does not see what leaves it: enable it first, or take the entry out by hand.
+void CVelmarMenu::SetLayoutsEnabled(bool enabled)
+{
+    ui->m_layoutWidgetMenu->setEnabled(enabled);
+    if (m_pScrollLayout) {
+        m_pScrollLayout->setEnabled(enabled);
+    }
+}
+
+void CVelmarMenu::TakeFromLayouts(QWidget* entry)
+{
+    ui->m_layoutWidgetMenu->removeWidget(entry);
+    if (m_pScrollLayout) {
+        m_pScrollLayout->removeWidget(entry);
+    }
 }
 
 void CVelmarMenu::ShowIfOpen(QWidget* entry)
@@ -543,6 +561,7 @@ void CVelmarMenu::ShowIfOpen(QWidget* entry)
 
 void CVelmarMenu::ButtonGone(QPushButton* button)
 {
+    TakeFromLayouts(button);
     if (m_listButtons.removeOne(button)) {
         --m_iRowCount;
         UpdateMenuSizeLater();
@@ -551,6 +570,7 @@ void CVelmarMenu::ButtonGone(QPushButton* button)
 
 void CVelmarMenu::ItemGone(CVelmarMenuItem* item)
 {
+    TakeFromLayouts(item);
     if (m_listItems.removeOne(item)) {
         --m_iRowCount;
         UpdateMenuSizeLater();
@@ -559,6 +579,7 @@ void CVelmarMenu::ItemGone(CVelmarMenuItem* item)
 
 void CVelmarMenu::SplitLineGone(QWidget* line)
 {
+    TakeFromLayouts(line);
     if (m_listSplitLines.removeOne(line)) {
         m_iSplitCount = int(std::count_if(m_listSplitLines.cbegin(), m_listSplitLines.cend(), IsEnabledItself));
         UpdateMenuSizeLater();

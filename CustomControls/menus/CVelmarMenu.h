@@ -128,6 +128,8 @@ private:
     void UpdateMenuSize();
     void UpdateMenuSizeLater();
     void LayOutLater();
+    void SetLayoutsEnabled(bool enabled);
+    void TakeFromLayouts(QWidget* entry);
     void ShowIfOpen(QWidget* entry);
     void ButtonGone(QPushButton* button);
     void ItemGone(CVelmarMenuItem* item);
