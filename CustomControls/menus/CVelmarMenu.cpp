@@ -465,7 +465,9 @@ void CVelmarMenu::BuildScrollArea()
 
 void CVelmarMenu::FitScrollWidget()
 {
-    if (m_pScrollWidget) {
+    // The scroll area asks all rows for their sizes at each change of its content, so an open one waits for the last.
+    m_bFitWaiting = m_iWaitingLayouts > 0;
+    if (m_pScrollWidget && !m_bFitWaiting) {
         m_pScrollWidget->setFixedSize(WidgetSize(m_iWidth), WidgetSize(qint64(m_iRowCount) * m_iItemHeight));
     }
 }
@@ -523,6 +525,9 @@ void CVelmarMenu::LayOutLater()
                 return;
             }
             SetLayoutsEnabled(true);
+            if (m_bFitWaiting) {
+                FitScrollWidget();
+            }
             if (m_pScrollLayout) {
                 m_pScrollLayout->invalidate();
                 m_pScrollLayout->activate();

@@ -154,4 +154,5 @@ private:
     Ui::CVelmarMenu* ui;
 
     int m_iWaitingLayouts = 0;
+    bool m_bFitWaiting = false;
 };
