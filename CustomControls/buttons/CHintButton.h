@@ -1,0 +1,111 @@
+#pragma once
+
+#include <CustomControls/CustomControlsGlobal.h>
+
+#include <QPoint>
+#include <QPushButton>
+
+class CHintToolTip;
+class QTimer;
+
+/**
+ * A push button that carries a floating note. Hovering shows the note after a short delay until the pointer leaves; a
+ * click pins it until the next press elsewhere. It can also wrap its own caption by width, character by character, as
+ * Chinese captions need it. It paints nothing of its own: style it as any QPushButton. Owned by its parent.
+ *
+ * @code
+ * auto* button = new CHintButton(this);
+ * button->SetToolTipText(tr("主轴转速过高"));
+ * button->setFixedSize(12, 12);
+ * @endcode
+ */
+class CUSTOMCONTROLS_EXPORT CHintButton : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    explicit CHintButton(QWidget* parent = nullptr);
+    /** Deletes the note that SetToolTipText() made; one that the host set stays with the host. */
+    ~CHintButton() override;
+
+    /**
+     * Makes a text note that the button owns, in place of the one before. Every press hides such a note, one on the
+     * note itself too; one on the button shows it again.
+     */
+    void SetToolTipText(const QString& text);
+
+    /**
+     * Takes a note of the host, who keeps owning it, and makes this button its owner button. Null takes the note away.
+     * A note that the button owned is deleted. A note that the host deletes is forgotten.
+     */
+    void SetToolTip(CHintToolTip* toolTip);
+
+    /** Leaves the button without a note; one that it owned is deleted. */
+    void ClearContent();
+
+    /** The caption: wrapped to the button's width where SetAutoWrap() is on, else as it stands. */
+    void setText(const QString& text);
+
+    /**
+     * Wraps the caption to the button's width and elides what doesn't fit into maximumHeight(), now and on each resize.
+     * Switching it off leaves the last wrapped caption until the next setText().
+     */
+    void SetAutoWrap(bool enable);
+
+    /** Wraps the caption anew, for a host that changed the font or the style. Nothing without SetAutoWrap(). */
+    void RefreshDisplay();
+
+    /**
+     * Keeps the paths of two icons for a subclass that paints them; the button itself draws neither.
+     *
+     * @param iconHover an empty one takes @p icon
+     */
+    void SetIcon(const QString& icon, const QString& iconHover);
+
+    /** Whether hovering shows the note, on at first. A click shows it in any case. */
+    void SetHoverShow(bool enable);
+
+    /** From the pointer to the note's top left corner, in logical pixels; (10, 10) at first. */
+    void SetPositionOffset(const QPoint& offset);
+
+    /**
+     * Shows the note beside the pointer, or beyond the button where it would leave the screen. Nothing without a note.
+     *
+     * @param pinned the note stays when the pointer leaves
+     */
+    void ShowToolTip(bool pinned);
+
+    /** Hides the note, pinned or not. */
+    void HideToolTip();
+
+    bool IsToolTipVisible() const;
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    QString BuildDisplayText() const;
+    void UpdateDisplayText();
+    QPoint computeToolTipPosition() const;
+    void startHoverTimer();
+    void stopHoverTimer();
+    void onHoverTimeout();
+    void AdoptToolTip(CHintToolTip* toolTip, bool own);
+
+    CHintToolTip* m_pToolTip = nullptr;
+    bool m_bOwnToolTip = false;
+    bool m_bHoverShow = true;
+    bool m_bPinned = false;
+    int m_iHoverDelay = 100;
+    QTimer* m_pHoverTimer = nullptr;
+    QPoint m_ptOffset = QPoint(10, 10);
+    QString m_strIcon;
+    QString m_strIconHover;
+    QString m_strRawText;
+    bool m_bFilterInstalled = false;
+    bool m_bAutoWrap = false;
+};
