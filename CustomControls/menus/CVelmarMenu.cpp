@@ -111,6 +111,21 @@ bool IsEnabledItself(const QWidget* entry)
     return entry->isEnabledTo(entry->parentWidget());
 }
 
+// The rows at the given indexes, each once and in their own order; a negative index counts from the end.
+template <typename Row>
+QList<QPointer<QWidget>> NamedRows(const QList<Row*>& rows, const QList<int>& indexes)
+{
+    const QSet<int> wanted(indexes.cbegin(), indexes.cend());
+    const int count = int(rows.size());
+    QList<QPointer<QWidget>> named;
+    for (int index = 0; index < count; ++index) {
+        if (wanted.contains(index) || wanted.contains(index - count)) {
+            named.append(rows.at(index));
+        }
+    }
+    return named;
+}
+
 } // namespace
 
 CVelmarMenu* CVelmarMenu::m_pCurrentShowMenu = nullptr;
@@ -341,22 +356,22 @@ void CVelmarMenu::SetFont(QFont font)
 
 void CVelmarMenu::HideMenuBtn(const QList<int>& indexes)
 {
-    SetPresent(m_listButtons, indexes, false);
+    SetPresent(NamedRows(m_listButtons, indexes), false);
 }
 
 void CVelmarMenu::ShowMenuBtn(const QList<int>& indexes)
 {
-    SetPresent(m_listButtons, indexes, true);
+    SetPresent(NamedRows(m_listButtons, indexes), true);
 }
 
 void CVelmarMenu::HideMenuItem(const QList<int>& indexes)
 {
-    SetPresent(m_listItems, indexes, false);
+    SetPresent(NamedRows(m_listItems, indexes), false);
 }
 
 void CVelmarMenu::ShowMenuItem(const QList<int>& indexes)
 {
-    SetPresent(m_listItems, indexes, true);
+    SetPresent(NamedRows(m_listItems, indexes), true);
 }
 
 void CVelmarMenu::HideSplitLine(int index)
@@ -591,20 +606,11 @@ void CVelmarMenu::SplitLineGone(QWidget* line)
     }
 }
 
-template <typename Row>
-void CVelmarMenu::SetPresent(const QList<Row*>& rows, const QList<int>& indexes, bool present)
+void CVelmarMenu::SetPresent(const QList<QPointer<QWidget>>& rows, bool present)
 {
-    const QSet<int> wanted(indexes.cbegin(), indexes.cend());
-    const int count = int(rows.size());
-    QList<QPointer<QWidget>> named;
-    for (int index = 0; index < count; ++index) {
-        if (wanted.contains(index) || wanted.contains(index - count)) {
-            named.append(rows.at(index));
-        }
-    }
     // A focus that has to move on is heard by the host, who may delete rows or the menu.
     const QPointer<CVelmarMenu> self(this);
-    for (const QPointer<QWidget>& row : std::as_const(named)) {
+    for (const QPointer<QWidget>& row : rows) {
         if (!self) {
             return;
         }

@@ -134,8 +134,7 @@ private:
     void ButtonGone(QPushButton* button);
     void ItemGone(CVelmarMenuItem* item);
     void SplitLineGone(QWidget* line);
-    template <typename Row>
-    void SetPresent(const QList<Row*>& rows, const QList<int>& indexes, bool present);
+    void SetPresent(const QList<QPointer<QWidget>>& rows, bool present);
 
     static CVelmarMenu* m_pCurrentShowMenu;
 
