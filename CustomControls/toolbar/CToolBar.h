@@ -29,7 +29,7 @@ class CUSTOMCONTROLS_EXPORT CToolBar : public QToolBar
     Q_OBJECT
 
 public:
-    enum EnumToolBarMode
+    enum EnumToolBarMode : int
     {
         ToolBarModeSlim = 0, ///< 41 pixels high
         ToolBarModeBlock = 1 ///< 78 pixels high, with room for captions and a group caption
