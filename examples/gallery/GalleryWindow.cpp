@@ -32,7 +32,7 @@ constexpr auto PageSheet = "#pageScroll,#pageScroll>#qt_scrollarea_viewport{back
 } // namespace
 
 GalleryWindow::GalleryWindow(const GalleryOptions& options, QWidget* parent)
-    : QMainWindow(parent)
+    : FramelessMainWindow(parent)
     , m_options(options)
     , m_pPageList(new QListWidget)
     , m_pStack(new QStackedWidget)
@@ -61,11 +61,13 @@ GalleryWindow::GalleryWindow(const GalleryOptions& options, QWidget* parent)
     middle->setSpacing(0);
     middle->addWidget(m_pPageList);
     middle->addLayout(page, 1);
+    auto* titleBar = new GalleryTitleBar(this, GalleryTitleBar::ButtonsAll, tr("控件陈列室"));
+    setTitleBar(titleBar);
     auto* central = new QWidget;
     auto* layout = new QVBoxLayout(central);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(new GalleryTitleBar);
+    layout->addWidget(titleBar);
     layout->addLayout(middle, 1);
     layout->addWidget(new StatusLine);
     setCentralWidget(central);
@@ -76,6 +78,7 @@ GalleryWindow::GalleryWindow(const GalleryOptions& options, QWidget* parent)
     CVelmarMessageBox::SetMainWindow(this);
     CorvaneSignalHelper* helper = CorvaneSignalHelper::instance();
     connect(helper, &CorvaneSignalHelper::signalActiveMainWindow, this, [this] {
+        setWindowState(windowState() & ~Qt::WindowMinimized);
         raise();
         activateWindow();
     });

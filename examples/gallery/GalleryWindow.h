@@ -2,17 +2,17 @@
 
 #include "GalleryOptions.h"
 
-#include <QMainWindow>
+#include <CustomControls/frameless/FramelessMainWindow.h>
 
 class QListWidget;
 class QStackedWidget;
 
 /**
- * The gallery's main window: title bar, page list, page, log pane and status line. It does what the controls expect of
- * a host: it is the main window of the message boxes, comes forward when a control asks for it, and tells every control
- * when the program is about to end.
+ * The gallery's main window, without a system frame: title bar, page list, page, log pane and status line. It does what
+ * the controls expect of a host: it is the main window of the message boxes, comes forward when a control asks for it,
+ * and tells every control when the program is about to end.
  */
-class GalleryWindow : public QMainWindow
+class GalleryWindow : public FramelessMainWindow
 {
     Q_OBJECT
 

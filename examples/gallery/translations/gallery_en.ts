@@ -203,6 +203,25 @@
 <context>
     <name>GalleryTitleBar</name>
     <message>
+        <source>最小化</source>
+        <translation>Minimise</translation>
+    </message>
+    <message>
+        <source>最大化</source>
+        <translation>Maximise</translation>
+    </message>
+    <message>
+        <source>向下还原</source>
+        <translation>Restore</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryWindow</name>
+    <message>
         <source>控件陈列室</source>
         <translation>Gallery of controls</translation>
     </message>
