@@ -2,6 +2,7 @@
 
 #include "ui_CVelmarMessageBox.h"
 
+#include <CustomControls/messagebox/CVelmarMessageListItem.h>
 #include <CustomControls/messagebox/MovieCopy_p.h>
 
 #include <CorvaneBase/CDebugLog.h>
@@ -9,6 +10,7 @@
 #include <CorvaneBase/CorvaneFonts.h>
 #include <CorvaneBase/CorvaneSignalHelper.h>
 #include <CorvaneBase/CorvaneTextHelper.h>
+#include <CorvaneBase/CorvaneToolBitHelper.h>
 
 #include <QApplication>
 #include <QDebug>
@@ -18,6 +20,7 @@
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QListWidget>
 #include <QMouseEvent>
 #include <QMovie>
 #include <QProcess>
@@ -28,6 +31,7 @@
 #include <QTextDocument>
 #include <QTimer>
 #include <QUrl>
+#include <QVBoxLayout>
 
 #include <bitset>
 
@@ -53,6 +57,18 @@ const QString kLoadingIconSheet = QStringLiteral("background:transparent;border:
 const QString kIconSheet = QStringLiteral("background:transparent;border:none;image:url(:/icon/img_pop_%1.png)");
 const QString kLoadingAnimation = QStringLiteral(":/icon/gif_pop_bac.gif");
 
+const QString kConfirmSentenceSheet = QStringLiteral("color:#333333;");
+const QString kToolListSheet = QStringLiteral(
+    "QListWidget {background: #F6F6F6;border: 1px solid #e5e5e5;border-radius: 4px;padding: 0;margin: 0;}"
+    "QListWidget::item {border: 1px solid #e5e5e5;padding: 0;margin: 0;}"
+    "QListWidget::item:selected {background: #e6f7ff;}"
+    "QScrollBar:vertical {    border: none;    background: #f0f0f0;    width: 12px;    margin: 0px 0px 0px 0px;}"
+    "QScrollBar::handle:vertical {    background: #cccccc;    min-height: 40px;    border-radius: 6px;}"
+    "QScrollBar::handle:vertical:hover {    background: #aaaaaa;}"
+    "QScrollBar::add-line:vertical,QScrollBar::sub-line:vertical {    border: none;    background: none;    "
+    "height: 0px;    width: 0px;}"
+    "QScrollBar::add-page:vertical,QScrollBar::sub-page:vertical {    background: none;}");
+
 const char kFunctionProperty[] = "Function";
 const char kDotCountProperty[] = "count";
 
@@ -73,6 +89,14 @@ constexpr int kDotInterval = 500;
 constexpr int kDotStates = 7;
 constexpr int kAutoCloseDelay = 2000;
 
+constexpr int kToolListSpacing = 10;
+/** Rows of the tool list that are seen at once, and what its border adds to their height. */
+constexpr int kVisibleToolRows = 9;
+constexpr int kToolListBorder = 2;
+constexpr int kNoTool = -1;
+/** The elements of a thread's tools in the order of their rows. */
+constexpr int kThreadToolOrder[] = {1, 0, 2};
+
 int CountBits(int mask)
 {
     return int(std::bitset<32>(static_cast<unsigned int>(mask)).count());
@@ -82,6 +106,40 @@ int LeftAndRight(const QLayout* layout)
 {
     const QMargins margins = layout->contentsMargins();
     return margins.left() + margins.right();
+}
+
+QListWidget* CreateToolList(QWidget* parent)
+{
+    auto* list = new QListWidget(parent);
+    list->setStyleSheet(kToolListSheet);
+    list->setFocusPolicy(Qt::NoFocus);
+    list->setSelectionMode(QAbstractItemView::NoSelection);
+    list->setDragEnabled(false);
+    list->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    return list;
+}
+
+QListWidgetItem* AddToolListRow(QListWidget* list, CVelmarMessageListItem* row)
+{
+    auto* item = new QListWidgetItem;
+    item->setSizeHint(row->size());
+    list->addItem(item);
+    list->setItemWidget(item, row);
+    return item;
+}
+
+QListWidgetItem* AddTool(QListWidget* list, QWidget* box, int tool, MachiningType type, ModelType model)
+{
+    CorvaneToolBitHelper* const tools = CorvaneToolBitHelper::instance();
+    auto* row = new CVelmarMessageListItem(box);
+    row->SetIsHeader(false);
+    row->SetContent(tools->GetToolNameByType(tools->GetIntegerToolTypeByNumber(tool, model)),
+                    tools->GetToolDetailByNumber(tool, model),
+                    QString::number(tools->GetToolLocationByToolNo(tool, model)), type);
+    return AddToolListRow(list, row);
 }
 
 } // namespace
@@ -599,4 +657,69 @@ void CVelmarMessageBox::ShowDiskSpaceWindow(QWidget* parent, const QString& cont
     if (noMore) {
         settings->SetLocalSettingCache(SettingTypeNotice, key, QVariant(true), false);
     }
+}
+
+// The box shows already. So each layout on the way up has to be told of what the content needs now, and the box, whose
+// place is that of a smaller one, must not reach beyond its screen with its buttons.
+void CVelmarMessageBox::FitToContent()
+{
+    for (QWidget* widget = ui->widget_2; widget != this; widget = widget->parentWidget()) {
+        widget->layout()->activate();
+    }
+    adjustSize();
+    if (!screen()->availableGeometry().contains(frameGeometry())) {
+        CorvaneSignalHelper::instance()->AdjustWindowPosition(this);
+    }
+}
+
+int CVelmarMessageBox::ShowGCodeConfirmWindow(QWidget* parent, int, EnumMsgIcon, const QString& title,
+                                              QList<int> roughTools, QList<int> semiFinishTools, QList<int> finishTools,
+                                              QList<std::array<int, 3>> threadTools, int textureTool, ModelType model)
+{
+    // Built without content, so the list is all that the content's layout gets.
+    const QPointer<CVelmarMessageBox> box =
+        new CVelmarMessageBox(parent, MsgBtnOk, MsgIconPop5, title, QString(), false, false, {});
+    box->AddIcon(MsgIconPop2);
+
+    auto* sentence = new QLabel(tr("请确保已将刀具放置在对应库位。"), box->ui->widget_2);
+    sentence->setWordWrap(true);
+    sentence->setFont(FontCn_16);
+    sentence->setStyleSheet(kConfirmSentenceSheet);
+
+    QListWidget* const list = CreateToolList(box->ui->widget_2);
+    auto* header = new CVelmarMessageListItem(box);
+    header->SetIsHeader(true);
+    AddToolListRow(list, header);
+    for (const int tool : roughTools) {
+        // Shows nothing while the list takes no selection; the first strategy's rows bear the mark all the same.
+        AddTool(list, box, tool, MachiningRough, model)->setSelected(true);
+    }
+    for (const int tool : semiFinishTools) {
+        AddTool(list, box, tool, MachiningSemiFinish, model);
+    }
+    for (const int tool : finishTools) {
+        AddTool(list, box, tool, MachiningFinish, model);
+    }
+    for (const std::array<int, 3>& tools : threadTools) {
+        for (const int element : kThreadToolOrder) {
+            if (tools[size_t(element)] != kNoTool) {
+                AddTool(list, box, tools[size_t(element)], MachiningThread, model);
+            }
+        }
+    }
+    if (textureTool != kNoTool) {
+        AddTool(list, box, textureTool, MachiningTexture, model);
+    }
+    list->setFixedHeight(header->height() * qMin(list->count(), kVisibleToolRows) + kToolListBorder);
+
+    auto* layout = new QVBoxLayout;
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(kToolListSpacing);
+    layout->addWidget(sentence);
+    layout->addWidget(list);
+    box->ui->layoutContent->addLayout(layout);
+    sentence->show();
+    list->show();
+    box->FitToContent();
+    return RunAndDelete(box);
 }

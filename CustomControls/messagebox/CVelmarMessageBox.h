@@ -2,6 +2,9 @@
 
 #include <CustomControls/CustomControlsGlobal.h>
 
+#include <CorvaneBase/CorvaneConstants.h>
+
+#include <QList>
 #include <QMap>
 #include <QPoint>
 #include <QPointer>
@@ -9,6 +12,7 @@
 #include <QVariant>
 #include <QWidget>
 
+#include <array>
 #include <utility>
 
 class QEventLoop;
@@ -166,6 +170,27 @@ public:
     /** Warns of a disk that is filling up, unless the user has ever ticked "不再提醒" in this box. */
     static void ShowDiskSpaceWindow(QWidget* parent, const QString& content);
 
+    /**
+     * Shows, before a job starts, which tools its G-code uses and where they must stand in the magazine: one row per
+     * use, with the strategy's tag, and the tool's name, measures and place as CorvaneToolBitHelper knows them. At most
+     * nine rows are seen at once, the titles among them; the others are scrolled to.
+     *
+     * @param buttonMask  has no effect: the box has the one button MsgBtnOk
+     * @param icon        has no effect: the box has the image of MsgIconPop2
+     * @param title       an empty title hides the title line
+     * @param roughTools, semiFinishTools, finishTools numbers of the tools of each strategy, in the order of the rows,
+     *                    which stand in the order of the strategies; a number may come again. A number that the model
+     *                    does not have makes a row too, at the place -1
+     * @param threadTools up to three tools for each thread; their rows stand in the order of the elements 1, 0, 2. An
+     *                    element of -1 makes no row
+     * @param textureTool -1 for none
+     * @param model       whose magazine is meant
+     * @return MsgBtnOk, or 2 when the user pressed Escape or the box was deleted while it ran
+     */
+    static int ShowGCodeConfirmWindow(QWidget* parent, int buttonMask, EnumMsgIcon icon, const QString& title,
+                                      QList<int> roughTools, QList<int> semiFinishTools, QList<int> finishTools,
+                                      QList<std::array<int, 3>> threadTools, int textureTool, ModelType model);
+
 Q_SIGNALS:
     /** The user pressed a function button, or Return or Enter in a box of one button. Sent before the run ends. */
     void SignalMessageBoxOperation(int iButtonType);
@@ -197,6 +222,7 @@ private:
     void HandleEnterKey();
     void ShowContent();
     int RunLoop();
+    void FitToContent();
 
     static QPointer<QWidget> m_pTopWidget;
 

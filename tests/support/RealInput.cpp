@@ -100,7 +100,7 @@ void RealInput::Key(const QString& name)
 
 void RealInput::Type(const QString& text)
 {
-    Run({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("20"), text});
+    Run({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("20"), QStringLiteral("--"), text});
 }
 
 void RealInput::Run(const QStringList& arguments)

@@ -10,6 +10,7 @@
 
 #include <tests/support/LogCapture.h>
 #include <tests/support/TestMain.h>
+#include <tests/unit/messagebox/RunningBox.h>
 
 #include <QAbstractEventDispatcher>
 #include <QDesktopServices>
@@ -27,9 +28,6 @@
 namespace {
 
 using Texts = QMap<EnumMsgButtonFunction, QString>;
-using BoxAction = std::function<void(CVelmarMessageBox*)>;
-
-constexpr int kOtherExit = 77;
 
 const QString kPrimarySheet = QStringLiteral(
     "QPushButton{border:1px solid transparent;background:#188553;color:#f5f5f5;border-radius:4px;}QPushButton::focus{"
@@ -57,50 +55,6 @@ std::unique_ptr<CVelmarMessageBox> MakeBox(int mask, const QString& content = QS
 {
     return std::make_unique<CVelmarMessageBox>(nullptr, mask, EnumMsgIcon(icon), title, content, false, forceBrowser,
                                                texts);
-}
-
-/** The function buttons from left to right. */
-QList<QPushButton*> Row(const CVelmarMessageBox* box)
-{
-    QList<QPushButton*> row;
-    const QLayout* layout = box->findChild<QHBoxLayout*>(QStringLiteral("m_layoutBtn"));
-    for (int i = 0; i < layout->count(); ++i) {
-        if (auto* button = qobject_cast<QPushButton*>(layout->itemAt(i)->widget())) {
-            row.append(button);
-        }
-    }
-    return row;
-}
-
-QPushButton* ButtonOf(const CVelmarMessageBox* box, int bit)
-{
-    for (QPushButton* button : Row(box)) {
-        if (button->property("Function").toInt() == bit) {
-            return button;
-        }
-    }
-    return nullptr;
-}
-
-CVelmarMessageBox* RunningBox()
-{
-    return qobject_cast<CVelmarMessageBox*>(QApplication::activeModalWidget());
-}
-
-/** Lets @p action act on the box that is opened next, from within its run. */
-void InNextBox(const BoxAction& action)
-{
-    QTimer::singleShot(0, qApp, [action] {
-        CVelmarMessageBox* box = RunningBox();
-        QVERIFY2(box, "no box is open");
-        action(box);
-    });
-}
-
-void SendKeyRelease(QWidget* widget, Qt::Key key)
-{
-    QKeyEvent event(QEvent::KeyRelease, key, Qt::NoModifier);
-    QCoreApplication::sendEvent(widget, &event);
 }
 
 void SendMouse(QWidget* widget, QEvent::Type type, QPoint local, QPoint global, Qt::MouseButton button,
