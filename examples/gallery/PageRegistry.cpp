@@ -4,6 +4,7 @@
 #include "pages/MachinePage.h"
 #include "pages/MessageBoxesPage.h"
 #include "pages/ProgressPage.h"
+#include "pages/ToolTablePage.h"
 
 #include <QCoreApplication>
 
@@ -28,6 +29,8 @@ const QList<PageEntry>& GalleryPages()
          Text(QT_TRANSLATE_NOOP("PageRegistry", "八种类型的按钮，三种背景，可选中、可带气泡。")), Create<ButtonsPage>},
         {QStringLiteral("message-boxes"), Text(QT_TRANSLATE_NOOP("PageRegistry", "消息框")),
          Text(QT_TRANSLATE_NOOP("PageRegistry", "一次调用即可提问，返回用户按下的按钮。")), Create<MessageBoxesPage>},
+        {QStringLiteral("tool-table"), Text(QT_TRANSLATE_NOOP("PageRegistry", "刀具表")),
+         Text(QT_TRANSLATE_NOOP("PageRegistry", "刀库里的刀具：能用的可以选择，直径和长度就地修改。")), Create<ToolTablePage>},
         {QStringLiteral("machine"), Text(QT_TRANSLATE_NOOP("PageRegistry", "连接机床")),
          Text(QT_TRANSLATE_NOOP("PageRegistry", "通过有线网络、无线网络或 USB Type-C 找到并连接机床。")), Create<MachinePage>},
         {QStringLiteral("progress"), Text(QT_TRANSLATE_NOOP("PageRegistry", "进度对话框")),

@@ -186,6 +186,12 @@ void MessageBoxesPage::AddEntryPoints()
                     CVelmarMessageBox::ShowDiskSpaceWindow(window(), tr("磁盘剩余空间不足 2 GB，扫描可能中断。"));
                     return -1;
                 });
+    AddQuestion(grid, QStringLiteral("boxTools"), QString(), tr("确认刀具"), QStringLiteral("ShowGCodeConfirmWindow"),
+                [this] {
+                    return CVelmarMessageBox::ShowGCodeConfirmWindow(window(), MsgBtnOk, MsgIconPop2, tr("请确认刀具"),
+                                                                     {1, 2, 7}, {3, 1}, {4, 5, 6}, {{8, 2, -1}}, 8,
+                                                                     ModelTypeStandard);
+                });
     auto* stacked = new GalleryTile(QStringLiteral("boxStacked"), QString(), tr("框上再问"), tr("后开的框先结束"));
     connect(stacked, &QPushButton::clicked, this, &MessageBoxesPage::RunStacked);
     grid->addWidget(stacked, grid->count() / Columns, grid->count() % Columns);

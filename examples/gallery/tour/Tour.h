@@ -124,6 +124,7 @@ TourGroup TourButtons(Tour* tour);
 TourGroup TourMessageBoxes(Tour* tour);
 TourGroup TourMachine(Tour* tour);
 TourGroup TourProgress(Tour* tour);
+TourGroup TourToolTable(Tour* tour);
 TourGroup TourUsb(Tour* tour);
 
 /** The step that opens a page by a click on its name in the page list. */

@@ -544,6 +544,14 @@
         <translation>Less than 2 GB of disk space left; the scan may break off.</translation>
     </message>
     <message>
+        <source>确认刀具</source>
+        <translation>Confirm the tools</translation>
+    </message>
+    <message>
+        <source>请确认刀具</source>
+        <translation>Please confirm the tools</translation>
+    </message>
+    <message>
         <source>框上再问</source>
         <translation>Ask again on top</translation>
     </message>
@@ -629,6 +637,14 @@
     <message>
         <source>一次调用即可提问，返回用户按下的按钮。</source>
         <translation>A question in one call, which returns the button that the user pressed.</translation>
+    </message>
+    <message>
+        <source>刀具表</source>
+        <translation>Tool table</translation>
+    </message>
+    <message>
+        <source>刀库里的刀具：能用的可以选择，直径和长度就地修改。</source>
+        <translation>The tools of the magazine: those that fit can be chosen, diameter and length are edited in place.</translation>
     </message>
     <message>
         <source>连接机床</source>
@@ -771,6 +787,80 @@
     <message>
         <source>未连接机床</source>
         <translation>No machine connected</translation>
+    </message>
+</context>
+<context>
+    <name>ToolTable</name>
+    <message>
+        <source>库位</source>
+        <translation>Place</translation>
+    </message>
+    <message>
+        <source>刀具</source>
+        <translation>Tool</translation>
+    </message>
+    <message>
+        <source>直径 mm</source>
+        <translation>⌀ mm</translation>
+    </message>
+    <message>
+        <source>长度 mm</source>
+        <translation>Length mm</translation>
+    </message>
+</context>
+<context>
+    <name>ToolTablePage</name>
+    <message>
+        <source>单击一行选择刀具，双击直径或长度修改数值。</source>
+        <translation>Click a row to choose its tool; double-click a diameter or a length to edit it.</translation>
+    </message>
+    <message>
+        <source>粗加工</source>
+        <translation>Roughing</translation>
+    </message>
+    <message>
+        <source>只能选择立铣刀，其余刀具显示为灰色。</source>
+        <translation>Only end mills can be chosen; the other tools are grey.</translation>
+    </message>
+    <message>
+        <source>精加工</source>
+        <translation>Finishing</translation>
+    </message>
+    <message>
+        <source>只能选择球头铣刀和锥度球头铣刀。</source>
+        <translation>Only ball nose mills can be chosen, tapered or not.</translation>
+    </message>
+    <message>
+        <source>已选择刀具：</source>
+        <translation>Chosen: </translation>
+    </message>
+    <message>
+        <source>已修改刀具：</source>
+        <translation>Edited: </translation>
+    </message>
+    <message>
+        <source>T%1 %2，直径 %3 mm，长度 %4 mm</source>
+        <translation>T%1 %2, diameter %3 mm, length %4 mm</translation>
+    </message>
+    <message>
+        <source>确认刀具</source>
+        <translation>Confirm the tools</translation>
+    </message>
+    <message>
+        <source>开始加工</source>
+        <translation>Start the job</translation>
+    </message>
+    <message>
+        <source>加工前列出所选刀具及其库位，由用户确认。</source>
+        <translation>Before the job the chosen tools are listed with their places, to be confirmed.</translation>
+    </message>
+    <message>
+        <source>刀具已确认，可以开始加工。</source>
+        <translation>The tools are confirmed; the job can start.</translation>
+    </message>
+    <message>
+        <source>未确认刀具。</source>
+        <translation>The tools are not confirmed.</translation>
     </message>
 </context>
 </TS>
