@@ -1,7 +1,7 @@
 #include <CustomControls/toolbar/CTabToolWidget.h>
 
+#include <tests/support/Painted.h>
 #include <tests/support/TestMain.h>
-#include <tests/unit/toolbar/Painted.h>
 
 #include <QIcon>
 #include <QPainter>

@@ -5,8 +5,8 @@
 #include <CustomControls/toolbar/CToolButton.h>
 #include <CustomControls/toolbar/CToolButtonVertical.h>
 
+#include <tests/support/Painted.h>
 #include <tests/support/TestMain.h>
-#include <tests/unit/toolbar/Painted.h>
 
 #include <QContextMenuEvent>
 #include <QHBoxLayout>

@@ -3,8 +3,8 @@
 #include <CorvaneBase/CorvaneFonts.h>
 #include <CustomControls/StatefulIcon.h>
 
+#include <tests/support/Painted.h>
 #include <tests/support/TestMain.h>
-#include <tests/unit/toolbar/Painted.h>
 
 #include <QHBoxLayout>
 #include <QMenu>

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <CustomControls/CustomControlsGlobal.h>
+
+#include <QIcon>
+#include <QPixmap>
+#include <QPushButton>
+#include <QSize>
+#include <QString>
+
+/**
+ * A checkable tile with a picture over a caption, such as one material of many. Checked it has a white ground, a green
+ * frame and a mark in its top right corner. Owned by its parent.
+ *
+ * The button has no size of its own: give it one that holds the picture and 18 pixels below it. It paints everything
+ * itself, so a style sheet doesn't reach it. The text and the icon of QPushButton stay empty.
+ *
+ * @code
+ * auto* tile = new CSelectButton(panel);
+ * tile->setIcon(QStringLiteral(":/icon/selectbox/material/img_material_jade.png"));
+ * tile->setText(tr("玉石"));
+ * tile->setFixedSize(96, 88);
+ * @endcode
+ */
+class CUSTOMCONTROLS_EXPORT CSelectButton : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    explicit CSelectButton(QWidget* parent = nullptr);
+
+    /**
+     * The picture, drawn in its own size; it shows with the next repaint.
+     *
+     * @param path a file or resource. One that cannot be read, or an empty one, shows no picture and takes no room
+     */
+    void setIcon(const QString& path);
+
+    /** The caption; it shows with the next repaint. A caption wider than the tile is cut at both ends. */
+    void setText(const QString& text);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QIcon m_icon;
+    QSize m_sizeIcon;
+    QString m_strText;
+    QPixmap m_pixMark; // the mark of a checked tile, read once
+};

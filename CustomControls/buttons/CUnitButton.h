@@ -1,0 +1,47 @@
+#pragma once
+
+#include <CustomControls/CustomControlsGlobal.h>
+
+#include <QPushButton>
+#include <QString>
+
+/**
+ * A small tile, 48 by 26 pixels, with a value and, smaller, its unit: one of a row of presets. It paints everything
+ * itself, so a style sheet doesn't reach it. The text of QPushButton stays empty.
+ *
+ * It is born without a parent, whatever its constructor is given: add it to a layout, which parents it.
+ *
+ * @code
+ * auto* preset = new CUnitButton(QStringLiteral("45"), QStringLiteral("°"), nullptr);
+ * row->addWidget(preset);
+ * connect(preset, &QPushButton::clicked, this, [this] { m_pAngle->SetValue(45.0); });
+ * @endcode
+ */
+class CUSTOMCONTROLS_EXPORT CUnitButton : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    /**
+     * @param text   the value; value and unit together wider than 48 pixels are cut at both ends
+     * @param unit   follows the value without a gap; may be empty
+     * @param parent ignored
+     */
+    CUnitButton(const QString& text, const QString& unit, QWidget* parent);
+
+    /** The value; repaints. */
+    void setText(const QString& text);
+
+    /** The unit; repaints. */
+    void setUnit(const QString& unit);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QString m_strText;
+    QString m_strUnit;
+    // The widths of both, measured when they change.
+    int m_iTextWidth = 0;
+    int m_iUnitWidth = 0;
+};
