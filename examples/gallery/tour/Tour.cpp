@@ -46,6 +46,7 @@ bool Tour::Prepare(const QStringList& onlyGroups, QString* problem)
     std::vector<TourGroup> groups;
     groups.push_back(TourPages(this));
     groups.push_back(TourButtons(this));
+    groups.push_back(TourParameters(this));
     groups.push_back(TourMessageBoxes(this));
     groups.push_back(TourProgress(this));
     groups.push_back(TourMachine(this));

@@ -631,6 +631,14 @@
         <translation>Buttons of eight types on three backgrounds, that can be chosen and carry a bubble.</translation>
     </message>
     <message>
+        <source>参数面板</source>
+        <translation>Parameter panel</translation>
+    </message>
+    <message>
+        <source>材料、尺寸、角度、开关与工序：一次加工的准备。</source>
+        <translation>Material, sizes, an angle, switches and steps: what prepares a job.</translation>
+    </message>
+    <message>
         <source>消息框</source>
         <translation>Message boxes</translation>
     </message>
@@ -661,6 +669,181 @@
     <message>
         <source>长时间任务的进度：由程序给出，或自行缓慢前进。</source>
         <translation>The progress of a long job, given by the program or creeping on its own.</translation>
+    </message>
+</context>
+<context>
+    <name>ParametersPage</name>
+    <message>
+        <source>选择材料、输入尺寸、切换选项，这里会显示结果。</source>
+        <translation>Choose a material, type a size or switch an option; the result is told here.</translation>
+    </message>
+    <message>
+        <source>亚克力</source>
+        <translation>ACRYLIC</translation>
+    </message>
+    <message>
+        <source>塑料</source>
+        <translation>PLASTIC</translation>
+    </message>
+    <message>
+        <source>木材</source>
+        <translation>WOOD</translation>
+    </message>
+    <message>
+        <source>铜</source>
+        <translation>COPPER</translation>
+    </message>
+    <message>
+        <source>金属</source>
+        <translation>METAL</translation>
+    </message>
+    <message>
+        <source>玉石</source>
+        <translation>JADE</translation>
+    </message>
+    <message>
+        <source>材料：%1</source>
+        <translation>Material: %1</translation>
+    </message>
+    <message>
+        <source>毛坯材料</source>
+        <translation>Stock material</translation>
+    </message>
+    <message>
+        <source>加工参数</source>
+        <translation>Parameters</translation>
+    </message>
+    <message>
+        <source>自适应毛坯</source>
+        <translation>Fit to model</translation>
+    </message>
+    <message>
+        <source>恢复默认值</source>
+        <translation>Defaults</translation>
+    </message>
+    <message>
+        <source>毛坯已按模型的尺寸设置。</source>
+        <translation>The stock now fits the model.</translation>
+    </message>
+    <message>
+        <source>毛坯已恢复默认尺寸。</source>
+        <translation>The stock has its default size again.</translation>
+    </message>
+    <message>
+        <source>方形毛坯</source>
+        <translation>Box stock</translation>
+    </message>
+    <message>
+        <source>关闭后毛坯尺寸由模型的外形决定，不能手动输入。</source>
+        <translation>When off, the outline of the model gives the size of the stock, and it cannot be typed.</translation>
+    </message>
+    <message>
+        <source>长度（X）</source>
+        <translation>Length (X)</translation>
+    </message>
+    <message>
+        <source>宽度（Y）</source>
+        <translation>Width (Y)</translation>
+    </message>
+    <message>
+        <source>高度（Z）</source>
+        <translation>Height (Z)</translation>
+    </message>
+    <message>
+        <source>旋转角度</source>
+        <translation>Rotation</translation>
+    </message>
+    <message>
+        <source>毛坯尺寸由您输入。</source>
+        <translation>You type the size of the stock.</translation>
+    </message>
+    <message>
+        <source>毛坯尺寸由模型决定。</source>
+        <translation>The model gives the size of the stock.</translation>
+    </message>
+    <message>
+        <source>%1：%2 %3</source>
+        <translation>%1: %2 %3</translation>
+    </message>
+    <message>
+        <source>转动</source>
+        <translation>Turn by</translation>
+    </message>
+    <message>
+        <source>旋转角度：%1°</source>
+        <translation>Rotation: %1°</translation>
+    </message>
+    <message>
+        <source>加工前测量高度</source>
+        <translation>Probe before the job</translation>
+    </message>
+    <message>
+        <source>主轴下降到对刀块上，测出刀尖的高度。请先放好对刀块。</source>
+        <translation>The spindle comes down on the tool setter and measures where the tip of the tool is. Put the tool setter in its place first.</translation>
+    </message>
+    <message>
+        <source>吸尘</source>
+        <translation>Dust collection</translation>
+    </message>
+    <message>
+        <source>加工时自动开启吸尘器；加工石材和金属时请保持开启。</source>
+        <translation>Switches the dust collector on for the job; leave it on for stone and metal.</translation>
+    </message>
+    <message>
+        <source>最后雕刻纹理</source>
+        <translation>Texture at the end</translation>
+    </message>
+    <message>
+        <source>%1：开</source>
+        <translation>%1: on</translation>
+    </message>
+    <message>
+        <source>%1：关</source>
+        <translation>%1: off</translation>
+    </message>
+    <message>
+        <source>加工工序</source>
+        <translation>Machining steps</translation>
+    </message>
+    <message>
+        <source>列表还有内容时，按钮上方出现一条细线。</source>
+        <translation>While there is more in the list, a thin line runs above the buttons.</translation>
+    </message>
+    <message>
+        <source>移除</source>
+        <translation>Remove</translation>
+    </message>
+    <message>
+        <source>生成刀路</source>
+        <translation>Generate</translation>
+    </message>
+    <message>
+        <source>还有 %1 道工序</source>
+        <translation>%1 steps are left</translation>
+    </message>
+    <message>
+        <source>已为 %1 道工序生成刀路</source>
+        <translation>Toolpaths generated for %1 steps</translation>
+    </message>
+    <message>
+        <source>粗加工  平底铣刀 3.175</source>
+        <translation>Roughing, flat end mill 3.175</translation>
+    </message>
+    <message>
+        <source>半精加工  球头铣刀 2.0</source>
+        <translation>Semi-finishing, ball nose 2.0</translation>
+    </message>
+    <message>
+        <source>精加工  球头铣刀 1.0</source>
+        <translation>Finishing, ball nose 1.0</translation>
+    </message>
+    <message>
+        <source>钻孔  钻头 2.5</source>
+        <translation>Drilling, drill 2.5</translation>
+    </message>
+    <message>
+        <source>倒角  倒角刀 90°</source>
+        <translation>Chamfering, chamfer mill 90°</translation>
     </message>
 </context>
 <context>
