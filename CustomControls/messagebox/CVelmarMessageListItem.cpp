@@ -69,6 +69,10 @@ void CVelmarMessageListItem::InitWidget()
                           ui->toolLocation}) {
         label->setFont(FontCnBold_14);
     }
+    // Names and measures come from a host's data and are shown as they stand.
+    for (QLabel* value : {ui->toolName, ui->toolSize, ui->toolLocation}) {
+        value->setTextFormat(Qt::PlainText);
+    }
     ui->titleToolLabel->adjustSize();
     ui->titleLocationLabel->adjustSize();
     if (!InChinese()) {

@@ -12,6 +12,7 @@
 
 #include <iterator>
 #include <type_traits>
+#include <utility>
 
 static_assert(std::is_trivially_copyable_v<ToolRecord>);
 
@@ -183,7 +184,7 @@ void CVelmarTableView::AddSampleRows()
 void CVelmarTableView::SetToolList(QList<ToolRecord>& list)
 {
     // A copy first: a host that listens to the model may touch its list.
-    const QList<ToolRecord> tools = list;
+    QList<ToolRecord> tools = list;
     for (int row = 0; row < kRowCount; ++row) {
         if (const ToolRecord* tool = FindTool(tools, row)) {
             ShowTool(row, *tool);
@@ -191,7 +192,7 @@ void CVelmarTableView::SetToolList(QList<ToolRecord>& list)
             ShowNoTool(row);
         }
     }
-    m_listTool = tools;
+    m_listTool = std::move(tools);
 }
 
 void CVelmarTableView::ShowTool(int row, const ToolRecord& tool)

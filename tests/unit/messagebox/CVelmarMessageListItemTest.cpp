@@ -97,6 +97,7 @@ private Q_SLOTS:
     void locationBeginsWithT();
     void flagHasNoEffect();
     void emptyTextsLeaveOnlyTheT();
+    void markupIsShownAsItStands();
     void typePicksTag_data();
     void typePicksTag();
     void unknownTypeLeavesTagsAlone_data();
@@ -384,6 +385,19 @@ void CVelmarMessageListItemTest::emptyTextsLeaveOnlyTheT()
     QCOMPARE(row.ui->toolName->toolTip(), QString());
     QCOMPARE(row.ui->toolSize->text(), QString());
     QCOMPARE(row.ui->toolLocation->text(), QStringLiteral("T"));
+}
+
+void CVelmarMessageListItemTest::markupIsShownAsItStands()
+{
+    CVelmarMessageListItem row(nullptr);
+    const QString text = QStringLiteral("<b>i</b>");
+    row.SetContent(text, text, text, MachiningRough);
+    // As wide as its letters, the marks among them.
+    const int width = QFontMetrics(FontCnBold_14).horizontalAdvance(text);
+    QVERIFY(row.ui->toolName->width() >= width);
+    QVERIFY(row.ui->toolSize->width() >= width);
+    QVERIFY(row.ui->toolLocation->width() >= width);
+    QCOMPARE(row.ui->toolName->text(), text);
 }
 
 void CVelmarMessageListItemTest::typePicksTag_data()
