@@ -22,6 +22,7 @@ namespace {
 
 constexpr int kRowStretch = 1;
 constexpr int kSubMenuRowStretch = 4;
+constexpr int kSplitStretch = 0;
 
 // A host that marks rows with this property sizes its menu by them, with flatter separators.
 constexpr char kRowShown[] = "show";
@@ -68,6 +69,7 @@ CCustomMenu::CCustomMenu(QWidget* parent)
     ui->setupUi(this);
     setFocusPolicy(Qt::ClickFocus);
     setFont(CorvaneTextHelper::instance()->AppInChineseEnvironment() ? FontCnMedium_14 : FontCnMedium_13);
+    ui->m_widgetMenu->installEventFilter(this);
 }
 
 CCustomMenu::~CCustomMenu()
@@ -169,10 +171,10 @@ QWidget* CCustomMenu::AddSplitLine()
 
     connect(split, &QObject::destroyed, this, [this, split] { SplitLineGone(split); });
     m_listSplitLines.append(split);
-    LayOutLater();
-    ui->m_layoutWidgetMenu->addWidget(split, 0);
+    AddEntry(split, kSplitStretch);
     ++m_iSplitCount;
     RefreshSize();
+    PrepareLater(split, split->size());
     return split;
 }
 
@@ -245,6 +247,7 @@ void CCustomMenu::RemoveMenuButton(int index)
         delete row;
         --m_iButtonCount;
         RefreshSize();
+        HideOrphanedSubMenu();
     }
 }
 
@@ -257,6 +260,7 @@ void CCustomMenu::RemoveAllMenuButtons()
     qDeleteAll(rows);
     qDeleteAll(lines);
     RefreshSize();
+    HideOrphanedSubMenu();
 }
 
 void CCustomMenu::SetTextAlignment(QFlags<Qt::AlignmentFlag> alignment)
@@ -267,7 +271,7 @@ void CCustomMenu::SetTextAlignment(QFlags<Qt::AlignmentFlag> alignment)
 void CCustomMenu::HideMenuBtn(const QList<QString>& texts)
 {
     const QSet<QString> wanted(texts.cbegin(), texts.cend());
-    // By index: a chosen row that is hidden says so, and whoever hears it may remove rows.
+    // By index: a chosen row that is hidden says so, and whoever hears it may remove others.
     for (int index = 0; index < m_listButtons.size(); ++index) {
         CCustomMenuItem* row = m_listButtons.at(index);
         if (IsPresent(row) && wanted.contains(row->text())) {
@@ -282,7 +286,9 @@ void CCustomMenu::HideMenuBtn(const QList<QString>& texts)
 void CCustomMenu::ShowMenuBtn(const QList<QString>& texts)
 {
     const QSet<QString> wanted(texts.cbegin(), texts.cend());
-    for (CCustomMenuItem* row : std::as_const(m_listButtons)) {
+    // By index: one that comes under the cursor is entered at once, and whoever hears it may remove others.
+    for (int index = 0; index < m_listButtons.size(); ++index) {
+        CCustomMenuItem* row = m_listButtons.at(index);
         if (!IsPresent(row) && wanted.contains(row->text())) {
             row->SetEnabled(true);
             row->show();
@@ -342,6 +348,10 @@ void CCustomMenu::SetEnabled(int id, bool enabled)
 bool CCustomMenu::eventFilter(QObject* obj, QEvent* event)
 {
     const QEvent::Type type = event->type();
+    if (type == QEvent::ChildRemoved && obj == ui->m_widgetMenu && !ui->m_layoutWidgetMenu->isEnabled()) {
+        // A layout that is held back doesn't let go of its widgets by itself.
+        ui->m_layoutWidgetMenu->removeWidget(static_cast<QWidget*>(static_cast<QChildEvent*>(event)->child()));
+    }
     if (type != QEvent::Enter && type != QEvent::Leave && type != QEvent::Hide) {
         return QWidget::eventFilter(obj, event);
     }
@@ -384,9 +394,10 @@ CCustomMenuItem* CCustomMenu::AddRow(const QString& text, const QString& shortcu
 {
     // Made where the layout would put it anyway: to move a row with its labels costs as much as to make it.
     auto* row = new CCustomMenuItem(ui->m_widgetMenu, text, shortcut, icon, iconHover, iconDisabled, hasSubMenu);
-    // A sub-menu outlives its row; what was known of a row that once lay at the same address is not this one's.
-    if (CCustomMenu* stale = m_hashSubMenus.take(row)) {
-        stale->m_pParentMenu = nullptr;
+    // A sub-menu outlives its row. That of a row which once lay at the same address is not this one's; it is kept under
+    // its own address, where no row can be.
+    if (CCustomMenu* orphan = m_hashSubMenus.take(row)) {
+        m_hashSubMenus.insert(reinterpret_cast<CCustomMenuItem*>(orphan), orphan);
     }
     if (!hasSubMenu) {
         connect(row, &CCustomMenuItem::SignalMenuItemClicked, this, [this, row] { ItemClicked(row); });
@@ -402,12 +413,12 @@ CCustomMenuItem* CCustomMenu::AddRow(const QString& text, const QString& shortcu
     m_iMaxShortcutWidth = std::max(m_iMaxShortcutWidth, metrics.horizontalAdvance(shortcut));
     row->SetMenuStyle(m_eMenuStyle);
 
-    PrepareLater(row);
-    LayOutLater();
-    ui->m_layoutWidgetMenu->addWidget(row, hasSubMenu ? kSubMenuRowStretch : kRowStretch);
+    AddEntry(row, hasSubMenu ? kSubMenuRowStretch : kRowStretch);
     m_listButtons.append(row);
     ++m_iButtonCount;
     RefreshSize();
+    const QMargins margins = ui->m_layoutWidgetMenu->contentsMargins();
+    PrepareLater(row, QSize(width() - margins.left() - margins.right(), WidgetSize(m_iItemHeight)));
     return row;
 }
 
@@ -467,7 +478,22 @@ void CCustomMenu::SplitLineGone(QWidget* line)
 void CCustomMenu::RefreshSizeLater()
 {
     // The layout still holds an entry that is just being deleted, and must not be asked for its size.
-    QMetaObject::invokeMethod(this, &CCustomMenu::RefreshSize, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            RefreshSize();
+            HideOrphanedSubMenu();
+        },
+        Qt::QueuedConnection);
+}
+
+void CCustomMenu::HideOrphanedSubMenu()
+{
+    // A row that is deleted isn't hidden first, and nobody else would close what it had opened.
+    const auto opens = [this](CCustomMenuItem* row) { return GetCustomMenu(row) == m_pOpenSubMenu; };
+    if (m_pOpenSubMenu && std::none_of(m_listButtons.cbegin(), m_listButtons.cend(), opens)) {
+        std::exchange(m_pOpenSubMenu, nullptr)->hide();
+    }
 }
 
 void CCustomMenu::SubMenuGone(CCustomMenu* subMenu)
@@ -523,58 +549,69 @@ bool CCustomMenu::CursorLeftTowardsSubMenu(const CCustomMenuItem* item) const
            cursor.y() <= row.bottom();
 }
 
-void CCustomMenu::PrepareLater(CCustomMenuItem* row)
+void CCustomMenu::AddEntry(QWidget* entry, int stretch)
 {
-    // A row's widgets post some ten requests to be polished and laid out, and for each layout the toolkit searches all
-    // the requests that wait: rows would cost more the more were added before. One call does for all rows of this turn.
-    const auto withdraw = [](QWidget* widget) {
-        QCoreApplication::removePostedEvents(widget, QEvent::PolishRequest);
-        QCoreApplication::removePostedEvents(widget, QEvent::LayoutRequest);
-    };
-    withdraw(row);
-    const QList<QWidget*> parts = row->findChildren<QWidget*>();
-    std::for_each(parts.cbegin(), parts.cend(), withdraw);
-    if (m_listNewRows.isEmpty()) {
-        QMetaObject::invokeMethod(this, &CCustomMenu::PrepareNewRows, Qt::QueuedConnection);
+    if (isVisible()) {
+        // On the screen each new entry would lay out all the others. One layout after the last of them leads to the
+        // same.
+        ui->m_layoutWidgetMenu->setEnabled(false);
     }
-    m_listNewRows.append(row);
+    ui->m_layoutWidgetMenu->addWidget(entry, stretch);
 }
 
-void CCustomMenu::PrepareNewRows()
+void CCustomMenu::PrepareLater(QWidget* entry, const QSize& size)
 {
-    const QList<QPointer<CCustomMenuItem>> rows = std::exchange(m_listNewRows, {});
-    for (const QPointer<CCustomMenuItem>& row : rows) {
-        if (!row) {
+    // An entry's widgets post some ten requests to be polished, laid out and shown, and with each request the toolkit
+    // searches all that wait: entries would cost more the more were added before. One call does for all of this turn.
+    QCoreApplication::removePostedEvents(entry);
+    const QList<QWidget*> parts = entry->findChildren<QWidget*>();
+    for (QWidget* part : parts) {
+        QCoreApplication::removePostedEvents(part);
+    }
+    if (isVisible()) {
+        // Where the layout is going to put it: shown elsewhere it could come under the cursor and take the hover.
+        const QMargins margins = ui->m_layoutWidgetMenu->contentsMargins();
+        entry->setGeometry(QRect(QPoint(margins.left(), height() - margins.bottom() - size.height()), size));
+    }
+    if (m_listNewEntries.isEmpty()) {
+        QMetaObject::invokeMethod(this, &CCustomMenu::PrepareNewEntries, Qt::QueuedConnection);
+    }
+    m_listNewEntries.append(entry);
+}
+
+void CCustomMenu::PrepareNewEntries()
+{
+    const QPointer<CCustomMenu> self(this);
+    const QList<QPointer<QWidget>> entries = std::exchange(m_listNewEntries, {});
+    const QPoint cursor = ui->m_widgetMenu->mapFromGlobal(QCursor::pos());
+    for (const QPointer<QWidget>& entry : entries) {
+        if (!entry) {
             continue;
         }
-        row->ensurePolished();
-        const QList<QWidget*> parts = row->findChildren<QWidget*>();
+        entry->ensurePolished();
+        const QList<QWidget*> parts = entry->findChildren<QWidget*>();
         for (QWidget* part : parts) {
             part->ensurePolished();
         }
-        row->layout()->activate();
-    }
-}
-
-void CCustomMenu::LayOutLater()
-{
-    if (!isVisible()) {
-        return;
-    }
-    // On the screen each new row would lay out all the others, once when the menu grows and once when the toolkit shows
-    // the row in the next turn of the event loop. One layout after the last of them leads to the same.
-    ++m_iWaitingLayouts;
-    ui->m_layoutWidgetMenu->setEnabled(false);
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            if (--m_iWaitingLayouts == 0) {
-                ui->m_layoutWidgetMenu->setEnabled(true);
-                ui->m_layoutWidgetMenu->invalidate();
-                ui->m_layoutWidgetMenu->activate();
+        if (entry->layout()) {
+            entry->layout()->activate();
+        }
+        // One that was added on the screen; what the host has hidden meanwhile stays so.
+        if (entry->isHidden() && !entry->testAttribute(Qt::WA_WState_ExplicitShowHide)) {
+            // The toolkit then searches all entries for the one under the cursor; it need not where that is another.
+            ui->m_widgetMenu->setAttribute(Qt::WA_TransparentForMouseEvents, !entry->geometry().contains(cursor));
+            entry->show();
+            if (!self) {
+                return;
             }
-        },
-        Qt::QueuedConnection);
+            ui->m_widgetMenu->setAttribute(Qt::WA_TransparentForMouseEvents, false);
+        }
+    }
+    if (!ui->m_layoutWidgetMenu->isEnabled()) {
+        ui->m_layoutWidgetMenu->setEnabled(true);
+        ui->m_layoutWidgetMenu->invalidate();
+        ui->m_layoutWidgetMenu->activate();
+    }
 }
 
 int CCustomMenu::HeightOf(int splitHeight, int rows) const

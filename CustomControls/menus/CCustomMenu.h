@@ -148,10 +148,11 @@ private:
     void OpenSubMenu(CCustomMenuItem* item, CCustomMenu* subMenu);
     void CloseSubMenu(CCustomMenuItem* item, CCustomMenu* subMenu);
     bool CursorLeftTowardsSubMenu(const CCustomMenuItem* item) const;
-    void PrepareLater(CCustomMenuItem* row);
-    void PrepareNewRows();
-    void LayOutLater();
+    void AddEntry(QWidget* entry, int stretch);
+    void PrepareLater(QWidget* entry, const QSize& size);
+    void PrepareNewEntries();
     void RefreshSizeLater();
+    void HideOrphanedSubMenu();
     int HeightOf(int splitHeight, int rows) const;
 
     Ui::CCustomMenu* ui;
@@ -170,6 +171,5 @@ private:
     CCustomMenu* m_pOpenSubMenu = nullptr;
     CCustomMenu* m_pParentMenu = nullptr;
 
-    QList<QPointer<CCustomMenuItem>> m_listNewRows;
-    int m_iWaitingLayouts = 0;
+    QList<QPointer<QWidget>> m_listNewEntries;
 };

@@ -2,6 +2,7 @@
 
 #include "pages/ButtonsPage.h"
 #include "pages/MachinePage.h"
+#include "pages/MenusPage.h"
 #include "pages/MessageBoxesPage.h"
 #include "pages/ParametersPage.h"
 #include "pages/ProgressPage.h"
@@ -30,6 +31,8 @@ const QList<PageEntry>& GalleryPages()
          Text(QT_TRANSLATE_NOOP("PageRegistry", "八种类型的按钮，三种背景，可选中、可带气泡。")), Create<ButtonsPage>},
         {QStringLiteral("parameters"), Text(QT_TRANSLATE_NOOP("PageRegistry", "参数面板")),
          Text(QT_TRANSLATE_NOOP("PageRegistry", "材料、尺寸、角度、开关与工序：一次加工的准备。")), Create<ParametersPage>},
+        {QStringLiteral("menus"), Text(QT_TRANSLATE_NOOP("PageRegistry", "菜单栏")),
+         Text(QT_TRANSLATE_NOOP("PageRegistry", "按钮与面板组成的菜单栏：图标、快捷键、子菜单、勾选项。")), Create<MenusPage>},
         {QStringLiteral("message-boxes"), Text(QT_TRANSLATE_NOOP("PageRegistry", "消息框")),
          Text(QT_TRANSLATE_NOOP("PageRegistry", "一次调用即可提问，返回用户按下的按钮。")), Create<MessageBoxesPage>},
         {QStringLiteral("tool-table"), Text(QT_TRANSLATE_NOOP("PageRegistry", "刀具表")),

@@ -47,6 +47,7 @@ bool Tour::Prepare(const QStringList& onlyGroups, QString* problem)
     groups.push_back(TourPages(this));
     groups.push_back(TourButtons(this));
     groups.push_back(TourParameters(this));
+    groups.push_back(TourMenus(this));
     groups.push_back(TourMessageBoxes(this));
     groups.push_back(TourProgress(this));
     groups.push_back(TourMachine(this));

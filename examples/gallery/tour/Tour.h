@@ -124,6 +124,7 @@ TourGroup TourButtons(Tour* tour);
 TourGroup TourParameters(Tour* tour);
 TourGroup TourMessageBoxes(Tour* tour);
 TourGroup TourMachine(Tour* tour);
+TourGroup TourMenus(Tour* tour);
 TourGroup TourProgress(Tour* tour);
 TourGroup TourToolTable(Tour* tour);
 TourGroup TourUsb(Tour* tour);

@@ -401,6 +401,201 @@
     </message>
 </context>
 <context>
+    <name>MenusPage</name>
+    <message>
+        <source>打开一个菜单并选择，这里和日志里会显示所选的命令。</source>
+        <translation>Open a menu and choose; the command is told here and in the log.</translation>
+    </message>
+    <message>
+        <source>支架.cnc</source>
+        <translation>Bracket.cnc</translation>
+    </message>
+    <message>
+        <source>文件</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>编辑</source>
+        <translation>Edit</translation>
+    </message>
+    <message>
+        <source>视图</source>
+        <translation>View</translation>
+    </message>
+    <message>
+        <source>刀路</source>
+        <translation>Tool path</translation>
+    </message>
+    <message>
+        <source>机床</source>
+        <translation>Machine</translation>
+    </message>
+    <message>
+        <source>断开连接</source>
+        <translation>Disconnect</translation>
+    </message>
+    <message>
+        <source>帮助</source>
+        <translation>Help</translation>
+    </message>
+    <message>
+        <source>加工程序</source>
+        <translation>A machining program</translation>
+    </message>
+    <message>
+        <source>按下打开，再按关闭；打开时移到旁边的按钮即可切换；点击别处关闭。快捷键同样有效。</source>
+        <translation>Press to open, press again to close; with one open, the pointer on another button opens that one; a click elsewhere closes. The shortcuts work too.</translation>
+    </message>
+    <message>
+        <source>刚才选择：%1</source>
+        <translation>Chosen last: %1</translation>
+    </message>
+    <message>
+        <source>未命名.cnc</source>
+        <translation>Untitled.cnc</translation>
+    </message>
+    <message>
+        <source>刚才选择：%1（开）</source>
+        <translation>Chosen last: %1 (on)</translation>
+    </message>
+    <message>
+        <source>刚才选择：%1（关）</source>
+        <translation>Chosen last: %1 (off)</translation>
+    </message>
+    <message>
+        <source>齿轮箱盖.cnc</source>
+        <translation>Gearbox lid.cnc</translation>
+    </message>
+    <message>
+        <source>铭牌.cnc</source>
+        <translation>Name plate.cnc</translation>
+    </message>
+    <message>
+        <source>清除列表</source>
+        <translation>Clear the list</translation>
+    </message>
+    <message>
+        <source>新建工程</source>
+        <translation>New project</translation>
+    </message>
+    <message>
+        <source>打开工程…</source>
+        <translation>Open project…</translation>
+    </message>
+    <message>
+        <source>最近打开</source>
+        <translation>Recent projects</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>另存为…</source>
+        <translation>Save as…</translation>
+    </message>
+    <message>
+        <source>导出 G 代码…</source>
+        <translation>Export G-code…</translation>
+    </message>
+    <message>
+        <source>撤销</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>重做</source>
+        <translation>Redo</translation>
+    </message>
+    <message>
+        <source>剪切</source>
+        <translation>Cut</translation>
+    </message>
+    <message>
+        <source>复制</source>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>粘贴</source>
+        <translation>Paste</translation>
+    </message>
+    <message>
+        <source>删除</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>等轴测</source>
+        <translation>Isometric</translation>
+    </message>
+    <message>
+        <source>俯视</source>
+        <translation>Top</translation>
+    </message>
+    <message>
+        <source>前视</source>
+        <translation>Front</translation>
+    </message>
+    <message>
+        <source>左视</source>
+        <translation>Left</translation>
+    </message>
+    <message>
+        <source>深色</source>
+        <translation>Dark</translation>
+    </message>
+    <message>
+        <source>白色</source>
+        <translation>White</translation>
+    </message>
+    <message>
+        <source>网格</source>
+        <translation>Grid</translation>
+    </message>
+    <message>
+        <source>坐标轴</source>
+        <translation>Axes</translation>
+    </message>
+    <message>
+        <source>视角</source>
+        <translation>View from</translation>
+    </message>
+    <message>
+        <source>菜单样式</source>
+        <translation>Menu style</translation>
+    </message>
+    <message>
+        <source>粗加工</source>
+        <translation>Roughing</translation>
+    </message>
+    <message>
+        <source>半精加工</source>
+        <translation>Semi-finishing</translation>
+    </message>
+    <message>
+        <source>精加工</source>
+        <translation>Finishing</translation>
+    </message>
+    <message>
+        <source>添加策略</source>
+        <translation>Add strategy</translation>
+    </message>
+    <message>
+        <source>计算刀路</source>
+        <translation>Calculate tool path</translation>
+    </message>
+    <message>
+        <source>仿真</source>
+        <translation>Simulate</translation>
+    </message>
+    <message>
+        <source>快捷键一览</source>
+        <translation>Keyboard shortcuts</translation>
+    </message>
+    <message>
+        <source>关于</source>
+        <translation>About</translation>
+    </message>
+</context>
+<context>
     <name>MessageBoxesPage</name>
     <message>
         <source>点击一个例子，这里会显示返回值。</source>
@@ -672,6 +867,14 @@
     <message>
         <source>材料、尺寸、角度、开关与工序：一次加工的准备。</source>
         <translation>Material, sizes, an angle, switches and steps: what prepares a job.</translation>
+    </message>
+    <message>
+        <source>菜单栏</source>
+        <translation>Menu bar</translation>
+    </message>
+    <message>
+        <source>按钮与面板组成的菜单栏：图标、快捷键、子菜单、勾选项。</source>
+        <translation>A menu bar of buttons and panels: icons, shortcuts, sub-menus, rows that can be ticked.</translation>
     </message>
     <message>
         <source>消息框</source>

@@ -5,6 +5,7 @@
 #include <tests/support/RealInput.h>
 #include <tests/support/TestMain.h>
 
+#include <QApplication>
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
@@ -50,6 +51,14 @@ private Q_SLOTS:
     void clickOnTheMarginKeepsTheMenuOpen();
     void hoverToTheNextButtonMovesTheMenu();
     void hoverOnADisabledButtonClosesTheMenu();
+    void comingBackToTheOwnButtonKeepsTheMenuOpen();
+    void secondPressClosesAlsoWithTheFocusInTheMenu();
+    void focusComesBackWhileTheCursorIsOverTheMenu();
+    void focusComesBackWhileTheCursorIsOverTheSubMenu();
+    void focusGoesFromTheSubMenuToTheRootUnderTheCursor();
+    void disabledRowKeepsTheMenuOpen();
+    void subMenuOfASubMenuStaysWhenItsFocusGoes();
+    void clickInTheThirdLevelClosesAll();
     void goingStraightToTheRightKeepsTheSubMenu();
     void goingToAnotherRowClosesTheSubMenu();
     void clickInTheSubMenuTellsTheRootOnce();
@@ -62,11 +71,14 @@ private Q_SLOTS:
 private:
     void OpenFirst();
     void OpenSubMenu();
+    void AddThirdLevel();
+    void OpenThirdLevel();
 
     std::unique_ptr<QWidget> m_window;
     QList<QPushButton*> m_buttons;
     QList<CCustomMenu*> m_menus;
     CCustomMenu* m_subMenu = nullptr;
+    CCustomMenu* m_third = nullptr;
     QLineEdit* m_field = nullptr;
 };
 
@@ -222,6 +234,143 @@ void MenuBarFocusTest::hoverOnADisabledButtonClosesTheMenu()
     QVERIFY(!m_menus.at(1)->isVisible());
     RealInput::MoveTo(CentreOf(m_buttons.at(2)));
     QTRY_VERIFY(m_menus.at(2)->isVisible());
+}
+
+void MenuBarFocusTest::comingBackToTheOwnButtonKeepsTheMenuOpen()
+{
+    OpenFirst();
+    const QSignalSpy shown(m_menus.at(0), &CCustomMenu::SignalShow);
+    RealInput::Click(MarginOf(m_menus.at(0)));
+    QTRY_VERIFY(m_menus.at(0)->hasFocus());
+    RealInput::MoveTo(CentreOf(m_buttons.at(0)));
+    QTRY_VERIFY(shown.count() > 0);
+    QTRY_VERIFY(m_buttons.at(0)->hasFocus());
+    QVERIFY(m_menus.at(0)->isVisible());
+    QCOMPARE(m_menus.at(0)->pos(), QPoint(20, 50));
+    RealInput::MoveTo(CentreOf(m_menus.at(0)->MenuButton(0)));
+    QTRY_VERIFY(m_menus.at(0)->MenuButton(0)->underMouse());
+    QVERIFY(m_menus.at(0)->isVisible());
+}
+
+void MenuBarFocusTest::secondPressClosesAlsoWithTheFocusInTheMenu()
+{
+    OpenFirst();
+    RealInput::Click(MarginOf(m_menus.at(0)));
+    QTRY_VERIFY(m_menus.at(0)->hasFocus());
+    RealInput::Click(CentreOf(m_buttons.at(0)));
+    QTRY_VERIFY(!m_menus.at(0)->isVisible());
+    QTRY_VERIFY(m_window->hasFocus());
+    RealInput::Click(CentreOf(m_buttons.at(0)));
+    QTRY_VERIFY(m_menus.at(0)->isVisible());
+}
+
+void MenuBarFocusTest::focusComesBackWhileTheCursorIsOverTheMenu()
+{
+    OpenFirst();
+    RealInput::Click(MarginOf(m_menus.at(0)));
+    QTRY_VERIFY(m_menus.at(0)->hasFocus());
+    const QSignalSpy moved(qApp, &QApplication::focusChanged);
+    RealInput::Key(QStringLiteral("Tab"));
+    QTRY_VERIFY(moved.count() > 0);
+    QTRY_VERIFY(m_menus.at(0)->hasFocus());
+    QVERIFY(m_menus.at(0)->isVisible());
+    QVERIFY(LooksOpen(m_buttons.at(0)));
+}
+
+void MenuBarFocusTest::focusComesBackWhileTheCursorIsOverTheSubMenu()
+{
+    OpenSubMenu();
+    RealInput::MoveTo(CentreOf(m_subMenu->MenuButton(0)));
+    RealInput::Click(MarginOf(m_subMenu));
+    QTRY_VERIFY(m_subMenu->hasFocus());
+    const QSignalSpy moved(qApp, &QApplication::focusChanged);
+    RealInput::Key(QStringLiteral("Tab"));
+    QTRY_VERIFY(moved.count() > 0);
+    QTRY_VERIFY(m_subMenu->hasFocus());
+    QVERIFY(m_menus.at(0)->isVisible() && m_subMenu->isVisible());
+}
+
+void MenuBarFocusTest::focusGoesFromTheSubMenuToTheRootUnderTheCursor()
+{
+    OpenSubMenu();
+    RealInput::MoveTo(CentreOf(m_subMenu->MenuButton(0)));
+    RealInput::Click(MarginOf(m_subMenu));
+    QTRY_VERIFY(m_subMenu->hasFocus());
+    RealInput::MoveTo(CentreOf(m_menus.at(0)->MenuButton(1)));
+    QTRY_VERIFY(m_menus.at(0)->MenuButton(1)->underMouse());
+    RealInput::Key(QStringLiteral("Tab"));
+    QTRY_VERIFY(m_menus.at(0)->hasFocus());
+    QVERIFY(m_menus.at(0)->isVisible());
+    QVERIFY(LooksOpen(m_buttons.at(0)));
+}
+
+void MenuBarFocusTest::disabledRowKeepsTheMenuOpen()
+{
+    CCustomMenuItem* row = m_menus.at(0)->MenuButton(0);
+    row->SetEnabled(false);
+    const QSignalSpy clicked(row, &CCustomMenuItem::SignalMenuItemClicked);
+    OpenFirst();
+    RealInput::Click(CentreOf(row));
+    QTRY_VERIFY(m_menus.at(0)->hasFocus());
+    QVERIFY(m_menus.at(0)->isVisible());
+    QCOMPARE(clicked.count(), 0);
+}
+
+void MenuBarFocusTest::AddThirdLevel()
+{
+    m_third = m_subMenu->AddButtonWithSubMenu(QStringLiteral("deeper"), {}, {}, {}, {});
+    m_third->AddMenuItem(QStringLiteral("deepest"), {}, {}, {}, {});
+    for (CCustomMenu* menu : {m_third, m_subMenu}) {
+        menu->UpdateItemSize();
+        menu->RefreshSize();
+    }
+}
+
+void MenuBarFocusTest::OpenThirdLevel()
+{
+    const QPoint row = CentreOf(m_subMenu->MenuButton(2));
+    RealInput::MoveTo(row);
+    QTRY_VERIFY(m_third->isVisible());
+    for (int x = row.x(); x < CentreOf(m_third).x(); x += 7) {
+        RealInput::MoveTo(QPoint(x, row.y()));
+    }
+    QTRY_VERIFY(m_third->MenuButton(0)->underMouse());
+}
+
+void MenuBarFocusTest::subMenuOfASubMenuStaysWhenItsFocusGoes()
+{
+    m_window->setFocusPolicy(Qt::ClickFocus);
+    AddThirdLevel();
+    OpenFirst();
+    RealInput::Click(MarginOf(m_menus.at(0)));
+    QTRY_VERIFY(m_menus.at(0)->hasFocus());
+    RealInput::MoveTo(CentreOf(m_menus.at(0)->MenuButton(1)));
+    QTRY_VERIFY(m_subMenu->isVisible());
+    RealInput::MoveTo(CentreOf(m_subMenu->MenuButton(0)));
+    RealInput::Click(MarginOf(m_subMenu));
+    QTRY_VERIFY(m_subMenu->hasFocus());
+    OpenThirdLevel();
+    RealInput::Click(MarginOf(m_third));
+    QTRY_VERIFY(m_third->hasFocus());
+    QVERIFY(m_menus.at(0)->isVisible() && m_subMenu->isVisible() && m_third->isVisible());
+    // The helper follows direct sub-menus alone: what lies below them closes by a click on a row, not by the focus.
+    RealInput::Click(m_window->mapToGlobal(kFreePlace));
+    QTRY_VERIFY(m_window->hasFocus());
+    QVERIFY(m_menus.at(0)->isVisible() && m_subMenu->isVisible());
+}
+
+void MenuBarFocusTest::clickInTheThirdLevelClosesAll()
+{
+    AddThirdLevel();
+    OpenSubMenu();
+    RealInput::MoveTo(CentreOf(m_subMenu->MenuButton(0)));
+    OpenThirdLevel();
+    const QSignalSpy root(m_menus.at(0), &CCustomMenu::SignalItemClicked);
+    RealInput::Click(CentreOf(m_third->MenuButton(0)));
+    QTRY_COMPARE(root.count(), 1);
+    QVERIFY(!m_menus.at(0)->isVisible() && !m_subMenu->isVisible() && !m_third->isVisible());
+    RealInput::MoveTo(m_window->mapToGlobal(kFreePlace));
+    QTRY_VERIFY(!LooksOpen(m_buttons.at(0)));
 }
 
 void MenuBarFocusTest::goingStraightToTheRightKeepsTheSubMenu()

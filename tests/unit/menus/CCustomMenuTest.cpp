@@ -101,6 +101,15 @@ private Q_SLOTS:
     void withoutParentTheSubMenuGoesWithTheMenu();
     void strangeTextsAreMeasured();
     void rowsAddedToAMenuOnTheScreenEndInPlace();
+    void rowsAddedToAMenuOnTheScreenAreNotEntered();
+    void rowAddedUnderTheCursorIsEntered();
+    void rowHiddenBeforeItCameOnTheScreenStaysHidden();
+    void entryThatGoesBeforeItsLayoutIsForgotten_data();
+    void entryThatGoesBeforeItsLayoutIsForgotten();
+    void rowWhoseSubMenuIsOpenTakesItAlong_data();
+    void rowWhoseSubMenuIsOpenTakesItAlong();
+    void newRowInheritsNoSubMenu();
+    void rowsMayBeRemovedByWhoHearsAnotherHidden();
     void panelIsPaintedInItsStyle_data();
     void panelIsPaintedInItsStyle();
 
@@ -1031,6 +1040,190 @@ void CCustomMenuTest::rowsAddedToAMenuOnTheScreenEndInPlace()
     QCOMPARE(menu.MenuButton(2)->geometry(), QRect(6, 67, 132, 24));
     menu.RemoveMenuButton(1);
     QTRY_COMPARE(menu.MenuButton(1)->geometry(), QRect(6, 43, 132, 24));
+}
+
+void CCustomMenuTest::rowsAddedToAMenuOnTheScreenAreNotEntered()
+{
+    CCustomMenu menu(m_window.get());
+    Add(&menu, {"a", "b", "c"});
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    const QPoint place = menu.MenuButton(0)->geometry().center();
+    QCursor::setPos(m_window->mapToGlobal(place));
+    QTest::mouseMove(m_window->windowHandle(), place);
+    QTRY_VERIFY(menu.MenuButton(0)->underMouse());
+    CCustomMenu* subMenu = menu.AddButtonWithSubMenu("d", {}, {}, {}, {});
+    menu.AddSplitLine();
+    Add(&menu, {"e"});
+    const QSignalSpy chosen(menu.MenuButton(3), &CCustomMenuItem::SignalFocusChanged);
+    QTRY_VERIFY(menu.MenuButton(4)->isVisible());
+    QVERIFY(menu.MenuButton(0)->underMouse());
+    QVERIFY(!subMenu->isVisible());
+    QCOMPARE(chosen.count(), 0);
+    QVERIFY(menu.MenuButton(4)->ui->widget->styleSheet().contains(QLatin1String("::hover"))); // never entered or left
+}
+
+void CCustomMenuTest::rowAddedUnderTheCursorIsEntered()
+{
+    CCustomMenu menu(m_window.get());
+    Add(&menu, {"a"});
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    const QPoint place(40, 6 + 24 + 12); // where the second row is going to be
+    QCursor::setPos(m_window->mapToGlobal(place));
+    QTest::mouseMove(m_window->windowHandle(), place);
+    CCustomMenu* subMenu = menu.AddButtonWithSubMenu("b", {}, {}, {}, {});
+    Add(&menu, {"c"});
+    QTRY_VERIFY(menu.MenuButton(2)->isVisible());
+    QVERIFY(subMenu->isVisible());
+    QCOMPARE(menu.m_pOpenSubMenu, subMenu);
+    QVERIFY(!menu.ui->m_widgetMenu->testAttribute(Qt::WA_TransparentForMouseEvents));
+}
+
+void CCustomMenuTest::rowHiddenBeforeItCameOnTheScreenStaysHidden()
+{
+    CCustomMenu menu(m_window.get());
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    Add(&menu, {"a", "b", "c"});
+    menu.HideMenuBtn({"b"});
+    QTRY_VERIFY(menu.MenuButton(2)->isVisible());
+    QVERIFY(menu.MenuButton(1)->isHidden());
+    QCOMPARE(menu.size(), QSize(144, 60));
+    QCOMPARE(menu.MenuButton(2)->geometry(), QRect(6, 30, 132, 24));
+}
+
+void CCustomMenuTest::entryThatGoesBeforeItsLayoutIsForgotten_data()
+{
+    QTest::addColumn<QString>("what");
+    QTest::addColumn<int>("height");
+    QTest::newRow("row removed") << "remove" << 97;
+    QTest::newRow("row deleted by the host") << "delete" << 97;
+    QTest::newRow("old row removed") << "old" << 97;
+    QTest::newRow("separator deleted") << "separator" << 108;
+    QTest::newRow("row moved elsewhere") << "reparent" << 121;
+    QTest::newRow("all removed") << "all" << 12;
+    QTest::newRow("all removed, one added") << "all and one" << 36;
+    QTest::newRow("menu deleted") << "menu" << 0;
+}
+
+void CCustomMenuTest::entryThatGoesBeforeItsLayoutIsForgotten()
+{
+    QFETCH(QString, what);
+    QFETCH(int, height);
+    QWidget elsewhere;
+    const QPointer<CCustomMenu> menu(new CCustomMenu(m_window.get()));
+    Add(menu, {"a", "b"});
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    Add(menu, {"c"});
+    QWidget* line = menu->AddSplitLine();
+    Add(menu, {"d"});
+    QCOMPARE(menu->height(), 121);
+    if (what == QLatin1String("remove")) {
+        menu->RemoveMenuButton(2);
+    } else if (what == QLatin1String("delete")) {
+        delete menu->MenuButton(3);
+    } else if (what == QLatin1String("old")) {
+        menu->RemoveMenuButton(0);
+    } else if (what == QLatin1String("separator")) {
+        delete line;
+    } else if (what == QLatin1String("reparent")) {
+        menu->MenuButton(2)->setParent(&elsewhere);
+    } else if (what == QLatin1String("menu")) {
+        delete menu;
+    } else {
+        menu->RemoveAllMenuButtons();
+        if (what == QLatin1String("all and one")) {
+            Add(menu, {"e"});
+        }
+    }
+    QCoreApplication::processEvents();
+    if (!menu) {
+        return;
+    }
+    QTRY_COMPARE(menu->height(), height);
+    m_window->grab();
+    int inLayout = 0;
+    for (int i = 0; i < menu->ui->m_layoutWidgetMenu->count(); ++i) {
+        QWidget* entry = menu->ui->m_layoutWidgetMenu->itemAt(i)->widget();
+        QVERIFY(entry && menu->isAncestorOf(entry) && entry->isVisible());
+        ++inLayout;
+    }
+    QCOMPARE(inLayout, what == QLatin1String("all") ? 0 : what == QLatin1String("all and one") ? 1 : 4);
+    if (what == QLatin1String("remove") || what == QLatin1String("old")) {
+        QCOMPARE(line->geometry(), QRect(6, 54, 144, 13));
+        QCOMPARE(menu->MenuButton(2)->geometry(), QRect(6, 67, 132, 24));
+    }
+}
+
+void CCustomMenuTest::rowWhoseSubMenuIsOpenTakesItAlong_data()
+{
+    QTest::addColumn<QString>("how");
+    for (const char* how : {"removed", "all removed", "deleted by the host"}) {
+        QTest::newRow(how) << how;
+    }
+}
+
+void CCustomMenuTest::rowWhoseSubMenuIsOpenTakesItAlong()
+{
+    QFETCH(QString, how);
+    CCustomMenu menu(m_window.get());
+    Add(&menu, {"a"});
+    CCustomMenu* subMenu = menu.AddButtonWithSubMenu("b", {}, {}, {}, {});
+    CCustomMenu* other = menu.AddButtonWithSubMenu("c", {}, {}, {}, {});
+    m_window->show();
+    Send(menu.MenuButton(1), QEvent::Enter);
+    QVERIFY(subMenu->isVisible());
+    menu.RemoveMenuButton(0); // another row's going leaves it open
+    QVERIFY(subMenu->isVisible());
+    if (how == QLatin1String("removed")) {
+        menu.RemoveMenuButton(0);
+    } else if (how == QLatin1String("all removed")) {
+        menu.RemoveAllMenuButtons();
+    } else {
+        delete menu.MenuButton(0);
+    }
+    QTRY_VERIFY(!subMenu->isVisible());
+    QCOMPARE(menu.m_pOpenSubMenu, nullptr);
+    QCOMPARE(menu.GetCustomMenus().size(), 2);
+    QVERIFY(menu.GetCustomMenus().contains(subMenu) && menu.GetCustomMenus().contains(other));
+}
+
+void CCustomMenuTest::newRowInheritsNoSubMenu()
+{
+    QPointer<CCustomMenu> subMenu;
+    {
+        CCustomMenu menu(nullptr);
+        subMenu = menu.AddButtonWithSubMenu("a", {}, {}, {}, {});
+        menu.RemoveMenuButton(0);
+        // Sooner or later a row comes to lie where the first one lay.
+        for (int i = 0; i < 50; ++i) {
+            Add(&menu, {"b"});
+            QCOMPARE(menu.GetCustomMenu(menu.MenuButton(i)), nullptr);
+            QCOMPARE(menu.GetCustomMenus(), QList<CCustomMenu*>{subMenu});
+        }
+        CCustomMenu* second = menu.AddButtonWithSubMenu("c", {}, {}, {}, {});
+        QVERIFY(second != subMenu);
+        QCOMPARE(menu.GetCustomMenus().size(), 2);
+    }
+    QVERIFY(subMenu.isNull());
+}
+
+void CCustomMenuTest::rowsMayBeRemovedByWhoHearsAnotherHidden()
+{
+    CCustomMenu menu(m_window.get());
+    Add(&menu, {"a", "b", "a", "c"});
+    m_window->show();
+    menu.MenuButton(0)->SetChooseFocus(true);
+    connect(menu.MenuButton(0), &CCustomMenuItem::SignalFocusChanged, &menu, [&menu] {
+        while (menu.MenuButtonCount() > 1) {
+            menu.RemoveMenuButton(1);
+        }
+    });
+    menu.HideMenuBtn({"a", "c"});
+    QCOMPARE(menu.MenuButtonCount(), 1);
+    QCOMPARE(menu.height(), 12);
 }
 
 void CCustomMenuTest::panelIsPaintedInItsStyle_data()
