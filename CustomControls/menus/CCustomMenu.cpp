@@ -514,7 +514,7 @@ void CCustomMenu::OpenSubMenu(CCustomMenuItem* item, CCustomMenu* subMenu)
         return;
     }
     const int top = ui->m_layoutWidgetMenu->contentsMargins().top();
-    subMenu->move(x() + m_iWidth - kSubMenuOverlap, y() - top + item->y());
+    subMenu->move(x() + WidgetSize(m_iWidth) - kSubMenuOverlap, y() - top + item->y());
     subMenu->raise();
     if (m_pOpenSubMenu == subMenu) {
         return;

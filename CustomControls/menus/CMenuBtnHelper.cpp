@@ -7,6 +7,8 @@
 #include <QPointer>
 #include <QPushButton>
 
+#include <algorithm>
+
 namespace {
 
 const QString kSubMenuName = QStringLiteral("SubMenu");
@@ -21,6 +23,12 @@ const QString kRestSheet =
 bool HoldsCursor(const QWidget* widget)
 {
     return widget->rect().contains(widget->mapFromGlobal(QCursor::pos()));
+}
+
+// The toolkit's coordinates have no room for sums with what lies beyond its largest size.
+int Coordinate(qint64 pixels)
+{
+    return int(std::clamp<qint64>(pixels, -QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
 }
 
 } // namespace
@@ -214,7 +222,7 @@ void CMenuBtnHelper::ButtonFocusOut(QPushButton* button)
 void CMenuBtnHelper::OpenMenu(QPushButton* button, CCustomMenu* menu)
 {
     m_pCurrentMenu = menu;
-    menu->move(button->x() + m_iMenuX, m_iMenuY);
+    menu->move(Coordinate(qint64(button->x()) + m_iMenuX), Coordinate(m_iMenuY));
     menu->show();
 }
 

@@ -85,6 +85,9 @@ private Q_SLOTS:
     void enterOfAnotherRowClosesTheSubMenu();
     void enterOfASecondSubMenuRowClosesTheFirst();
     void disabledSubMenuRowOpensNothing();
+    void disabledSubMenuRowLeavesAnotherSubMenuOpen();
+    void hidingTheRowHidesItsSubMenu();
+    void subMenuOfAnEndlessMenuStaysInBounds();
     void leaveKeepsTheSubMenuToTheRightOnly_data();
     void leaveKeepsTheSubMenuToTheRightOnly();
     void hidingTheMenuHidesItsSubMenu();
@@ -790,6 +793,52 @@ void CCustomMenuTest::disabledSubMenuRowOpensNothing()
     Send(menu.MenuButton(0), QEvent::Enter);
     QVERIFY(!subMenu->isVisible());
     QVERIFY(!menu.MenuButton(0)->m_bChooseFocus);
+}
+
+void CCustomMenuTest::disabledSubMenuRowLeavesAnotherSubMenuOpen()
+{
+    CCustomMenu menu(m_window.get());
+    CCustomMenu* first = menu.AddButtonWithSubMenu("a", {}, {}, {}, {});
+    CCustomMenu* second = menu.AddButtonWithSubMenu("b", {}, {}, {}, {});
+    menu.MenuButton(1)->SetEnabled(false);
+    m_window->show();
+    Send(menu.MenuButton(0), QEvent::Enter);
+    Send(menu.MenuButton(1), QEvent::Enter);
+    QVERIFY(first->isVisible() && !second->isVisible());
+    QCOMPARE(menu.m_pOpenSubMenu, first);
+    QCOMPARE(menu.m_pCurrentItem, nullptr);
+    QVERIFY(!menu.MenuButton(0)->m_bChooseFocus);
+}
+
+void CCustomMenuTest::hidingTheRowHidesItsSubMenu()
+{
+    CCustomMenu menu(m_window.get());
+    Add(&menu, {"a"});
+    CCustomMenu* subMenu = menu.AddButtonWithSubMenu("b", {}, {}, {}, {});
+    m_window->show();
+    Send(menu.MenuButton(1), QEvent::Enter);
+    menu.HideMenuBtn({"a"});
+    QVERIFY(subMenu->isVisible());
+    menu.HideMenuBtn({"b"});
+    QVERIFY(!subMenu->isVisible());
+    QCOMPARE(menu.m_pOpenSubMenu, nullptr);
+    QCOMPARE(menu.m_pCurrentItem, nullptr);
+    QCOMPARE(menu.height(), 12);
+}
+
+void CCustomMenuTest::subMenuOfAnEndlessMenuStaysInBounds()
+{
+    CCustomMenu menu(m_window.get());
+    CCustomMenu* subMenu = menu.AddButtonWithSubMenu("a", {}, {}, {}, {});
+    menu.move(10, 0);
+    m_window->show();
+    for (const int width : {INT_MIN, -1, INT_MAX}) {
+        menu.SetWindowWidth(width);
+        Send(menu.MenuButton(0), QEvent::Enter);
+        QVERIFY(subMenu->isVisible());
+        QCOMPARE(subMenu->x(), width < 0 ? 9 : 9 + QWIDGETSIZE_MAX);
+        Send(menu.MenuButton(0), QEvent::Leave);
+    }
 }
 
 void CCustomMenuTest::leaveKeepsTheSubMenuToTheRightOnly_data()

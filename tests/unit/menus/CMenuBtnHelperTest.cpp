@@ -9,6 +9,8 @@
 #include <QPushButton>
 #include <QSignalSpy>
 
+#include <climits>
+
 namespace {
 
 constexpr char kOpen[] = "QPushButton{outline:-1px;background:#111111;color:#FFFFFF;border:none;}"
@@ -81,6 +83,7 @@ private Q_SLOTS:
     void pressOpensTheMenuBelow();
     void secondPressClosesAndGivesTheFocusToTheParent();
     void positionAppliesAtTheNextOpening();
+    void positionsOutOfRangeAreHeldInBounds();
     void lastHelperNamesTheFocusWidget();
     void withoutFocusWidgetTheSecondPressStillCloses();
     void looksAreExact();
@@ -172,6 +175,18 @@ void CMenuBtnHelperTest::positionAppliesAtTheNextOpening()
     m_bar->Press(0);
     m_bar->Press(0);
     QCOMPARE(m_bar->m_menus[0]->pos(), QPoint(17, 70));
+}
+
+void CMenuBtnHelperTest::positionsOutOfRangeAreHeldInBounds()
+{
+    for (const int place : {INT_MIN, INT_MAX}) {
+        m_bar->m_helper->SetMenuPos(place, place);
+        m_bar->Press(0);
+        QVERIFY(m_bar->m_menus[0]->isVisible());
+        QCOMPARE(m_bar->m_menus[0]->x(), place < 0 ? -QWIDGETSIZE_MAX : QWIDGETSIZE_MAX);
+        m_bar->Press(0);
+        QVERIFY(!m_bar->m_menus[0]->isVisible());
+    }
 }
 
 void CMenuBtnHelperTest::lastHelperNamesTheFocusWidget()
