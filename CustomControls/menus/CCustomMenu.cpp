@@ -349,8 +349,14 @@ bool CCustomMenu::eventFilter(QObject* obj, QEvent* event)
 {
     const QEvent::Type type = event->type();
     if (type == QEvent::ChildRemoved && obj == ui->m_widgetMenu && !ui->m_layoutWidgetMenu->isEnabled()) {
-        // A layout that is held back doesn't let go of its widgets by itself.
-        ui->m_layoutWidgetMenu->removeWidget(static_cast<QWidget*>(static_cast<QChildEvent*>(event)->child()));
+        // A layout that is held back doesn't let go of its entries by itself. This one may be half destroyed already.
+        const QObject* gone = static_cast<QChildEvent*>(event)->child();
+        for (int index = ui->m_layoutWidgetMenu->count() - 1; index >= 0; --index) {
+            if (ui->m_layoutWidgetMenu->itemAt(index)->widget() == gone) {
+                delete ui->m_layoutWidgetMenu->takeAt(index);
+                break;
+            }
+        }
     }
     if (type != QEvent::Enter && type != QEvent::Leave && type != QEvent::Hide) {
         return QWidget::eventFilter(obj, event);
