@@ -27,7 +27,7 @@ constexpr int kTextPixelSize = 20;
 constexpr int kIconSize = 28;
 constexpr int kIconTopMargin = 12;
 constexpr int kIconTextGap = 8;
-// What a button's width leaves to its caption: the icon, the gap behind it and two pixels go to neither margin.
+// What neither caption nor outer margins get of a button's width: the icon, the gap behind it and two pixels.
 constexpr int kTakenWidth = 38;
 
 } // namespace

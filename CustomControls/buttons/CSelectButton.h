@@ -36,7 +36,10 @@ public:
      */
     void setIcon(const QString& path);
 
-    /** The caption; it shows with the next repaint. A caption wider than the tile is cut at both ends. */
+    /**
+     * The caption; it shows with the next repaint. Its line is 14 pixels high and as wide as the tile: what reaches
+     * beyond, such as the tails of Latin letters, is cut.
+     */
     void setText(const QString& text);
 
 protected:
