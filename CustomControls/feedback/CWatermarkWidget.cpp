@@ -1,9 +1,11 @@
 #include <CustomControls/feedback/CWatermarkWidget.h>
 
 #include <CustomControls/platform/ClickThrough.h>
+#include <CustomControls/platform/Glass.h>
 
 #include <CorvaneBase/CorvaneFonts.h>
 
+#include <QBackingStore>
 #include <QFontMetricsF>
 #include <QLabel>
 #include <QPainter>
@@ -16,7 +18,39 @@ constexpr QColor kInk(255, 75, 75, 72);
 constexpr double kSlant = -30.0;
 // Smaller changes keep the pixmap.
 constexpr int kTolerance = 3;
+// How much the widget may grow before the pixmap, which is twice as large, is drawn anew.
+constexpr QMargins kWithinTolerance(0, 0, kTolerance / 2, kTolerance / 2);
 constexpr double kColumnDistance = 1.5;
+
+/** A label that paints on the screen. The toolkit has no painter for such a widget, so this one fills its window. */
+class MarkLabel : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+    QPaintEngine* paintEngine() const override { return nullptr; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        QPoint offset;
+        QBackingStore* store = backingStore();
+        if (redirected(&offset) || !store) { // a picture of the label, as from grab()
+            QLabel::paintEvent(event);
+            return;
+        }
+        store->resize(size());
+        store->beginPaint(rect());
+        {
+            QPainter painter(store->paintDevice());
+            painter.setCompositionMode(QPainter::CompositionMode_Source); // not over what was there before
+            painter.fillRect(rect(), Qt::transparent);
+            painter.drawPixmap(QPoint(0, 0), pixmap(Qt::ReturnByValue), rect());
+        }
+        store->endPaint();
+        store->flush(rect());
+    }
+};
 
 } // namespace
 
@@ -36,7 +70,8 @@ CWatermarkWidget::~CWatermarkWidget()
 void CWatermarkWidget::ShowWatermark()
 {
     if (!m_pLabel) {
-        m_pLabel = new QLabel(this);
+        m_pLabel = new MarkLabel(this);
+        m_pLabel->setAlignment(Qt::AlignLeft | Qt::AlignTop);
         connect(m_pLabel, &QObject::destroyed, this, [this] { m_pLabel = nullptr; });
         m_pLabel->setAttribute(Qt::WA_PaintOnScreen);
         m_pLabel->setAttribute(Qt::WA_NoSystemBackground);
@@ -58,7 +93,11 @@ void CWatermarkWidget::AdjustWatermark(bool resize)
     if (resize) {
         m_pLabel->resize(size());
         // Twice the size, of which the label shows the upper left quarter: the slanted rows reach it from all sides.
-        m_pLabel->setPixmap(GeneratePixmap(width() * 2, height() * 2));
+        const QPixmap mark = GeneratePixmap(width() * 2, height() * 2);
+        if (m_pLabel->mask().isEmpty() || m_pLabel->pixmap(Qt::ReturnByValue).cacheKey() != mark.cacheKey()) {
+            CutToContent(m_pLabel, mark.copy(rect() + kWithinTolerance));
+        }
+        m_pLabel->setPixmap(mark);
     }
     m_pLabel->show();
     m_pLabel->raise();

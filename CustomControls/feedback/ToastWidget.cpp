@@ -34,12 +34,11 @@ bool IsCompact(ToastWidget::ToastType type)
 
 } // namespace
 
-ToastWidget::ToastWidget(ToastType type, QWidget* parent, const QString& text)
-    : QWidget(parent)
+ToastWidget::ToastWidget(ToastType type, QWidget* parent, QString text)
+    : QWidget(parent, Qt::Tool | Qt::FramelessWindowHint) // flags that come after the form have its sheets read anew
     , ui(new Ui::ToastWidget)
 {
     ui->setupUi(this);
-    setWindowFlags(Qt::Tool | Qt::FramelessWindowHint);
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_TranslucentBackground);
     SetClickThrough(this, true);

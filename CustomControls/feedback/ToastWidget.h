@@ -56,7 +56,7 @@ public:
      * @param parent the window that the strip stays above, may be null
      * @param text   the message of ToastCustomText, shown as it is; every other type ignores it
      */
-    ToastWidget(ToastType type, QWidget* parent, const QString& text);
+    ToastWidget(ToastType type, QWidget* parent, QString text);
     ~ToastWidget() override;
 
 private:

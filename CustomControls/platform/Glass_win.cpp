@@ -28,3 +28,5 @@ void BlurBehind(QWidget* window)
         DwmEnableBlurBehindWindow(hwnd, &blur);
     }
 }
+
+void CutToContent(QWidget*, const QPixmap&) {}

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPointer>
+#include <QScreen>
 
 #include <cmath>
 #include <memory>
@@ -65,6 +66,10 @@ private Q_SLOTS:
     void tilingFollowsTheFigures_data();
     void tilingFollowsTheFigures();
     void markIsFaint();
+    void labelShowsTheUpperLeftQuarter();
+    void markIsPaintedOnItsWindow();
+    void markIsCutToItsText();
+    void markWithoutTextIsCutAway();
     void degenerateSizesAreHarmless_data();
     void degenerateSizesAreHarmless();
     void markDiesWithItsWidget();
@@ -106,6 +111,7 @@ void CWatermarkWidgetTest::showMakesTheMarkAWindowOfItsOwn()
     const Qt::WindowFlags flags =
         Qt::Window | Qt::FramelessWindowHint | Qt::WindowTransparentForInput | Qt::WindowDoesNotAcceptFocus;
     QCOMPARE(mark->windowFlags() & flags, flags);
+    QVERIFY(mark->testAttribute(Qt::WA_PaintOnScreen));
     QVERIFY(mark->testAttribute(Qt::WA_NoSystemBackground));
     QVERIFY(mark->testAttribute(Qt::WA_TranslucentBackground));
     QCOMPARE(mark->pos(), watermark.mapToGlobal(QPoint(0, 0)));
@@ -249,6 +255,84 @@ void CWatermarkWidgetTest::markIsFaint()
     QVERIFY(inked < image.width() * image.height() / 2);
     QVERIFY(strongest >= 72);
     QVERIFY(strongest < 200); // rows may touch each other, never so much that they hide what is below
+}
+
+void CWatermarkWidgetTest::labelShowsTheUpperLeftQuarter()
+{
+    CWatermarkWidget watermark;
+    watermark.resize(300, 200);
+    watermark.ShowWatermark();
+    QImage seen(300, 200, QImage::Format_ARGB32_Premultiplied);
+    seen.fill(Qt::transparent);
+    watermark.m_pLabel->render(&seen, QPoint(), QRegion(), QWidget::DrawChildren | QWidget::IgnoreMask);
+    const QImage pixmap = watermark.m_pixmapCache.toImage().convertToFormat(seen.format());
+    QCOMPARE(seen, pixmap.copy(0, 0, 300, 200));
+    QVERIFY(seen != pixmap.copy(0, 100, 300, 200));
+}
+
+void CWatermarkWidgetTest::markIsPaintedOnItsWindow()
+{
+    CWatermarkWidget watermark;
+    watermark.resize(300, 200);
+    watermark.ShowWatermark();
+    // The windows of this platform know no transparency: what isn't drawn is black.
+    const auto shown = [&watermark] {
+        QScreen* screen = watermark.m_pLabel->screen();
+        return screen->grabWindow(watermark.m_pLabel->winId()).toImage().convertToFormat(QImage::Format_RGB32);
+    };
+    const auto drawn = [&watermark] {
+        QImage image(watermark.m_pLabel->size(), QImage::Format_RGB32);
+        image.fill(Qt::black);
+        QPainter(&image).drawPixmap(0, 0, watermark.m_pixmapCache);
+        return image;
+    };
+    QTRY_COMPARE(shown(), drawn());
+    watermark.m_pLabel->repaint();
+    QCOMPARE(shown(), drawn());
+    watermark.resize(420, 160);
+    watermark.AdjustWatermark(true);
+    QTRY_COMPARE(shown(), drawn());
+}
+
+void CWatermarkWidgetTest::markIsCutToItsText()
+{
+    CWatermarkWidget watermark;
+    watermark.resize(300, 200);
+    watermark.ShowWatermark();
+    const QRegion mask = watermark.m_pLabel->mask();
+    QImage shown(300, 200, QImage::Format_ARGB32);
+    shown.fill(Qt::transparent);
+    {
+        QPainter painter(&shown);
+        painter.setClipRegion(mask);
+        painter.fillRect(shown.rect(), Qt::black);
+    }
+    const QImage pixmap = watermark.m_pixmapCache.toImage();
+    int inked = 0;
+    for (int y = 0; y < shown.height(); ++y) {
+        for (int x = 0; x < shown.width(); ++x) {
+            const bool ink = qAlpha(pixmap.pixel(x, y)) > 0;
+            inked += ink ? 1 : 0;
+            QCOMPARE(qAlpha(shown.pixel(x, y)) > 0, ink);
+        }
+    }
+    QVERIFY(inked > 100);
+    // A pixel more keeps the pixmap, and the cut with it.
+    watermark.resize(301, 201);
+    watermark.AdjustWatermark(true);
+    QCOMPARE(watermark.m_pLabel->mask(), mask);
+    watermark.resize(400, 300);
+    watermark.AdjustWatermark(true);
+    QVERIFY(watermark.m_pLabel->mask() != mask);
+}
+
+void CWatermarkWidgetTest::markWithoutTextIsCutAway()
+{
+    CWatermarkWidget watermark;
+    watermark.resize(300, 1); // too low for a row of text
+    watermark.ShowWatermark();
+    QVERIFY(!watermark.m_pLabel->mask().isEmpty());
+    QVERIFY(!watermark.m_pLabel->mask().intersects(watermark.m_pLabel->rect()));
 }
 
 void CWatermarkWidgetTest::degenerateSizesAreHarmless_data()

@@ -107,7 +107,7 @@ void ToastWidgetTest::formIsAsDesigned()
     ui.setupUi(&form);
     QCOMPARE(form.objectName(), QStringLiteral("ToastWidget"));
     QCOMPARE(form.size(), QSize(533, 64));
-    QCOMPARE(form.styleSheet(), QStringLiteral("#content {\n    background: #DB2E2E;\n    border-radius: 6px;\n}\n"));
+    QCOMPARE(form.styleSheet(), QStringLiteral("#content {\n    background: #DB2E2E;\n    border-radius: 6px;\n}"));
     QVERIFY(!form.layout());
     QCOMPARE(ui.content->geometry(), QRect(0, 0, 533, 64));
     QCOMPARE(ui.hintLabel->parentWidget(), ui.content);
