@@ -6,7 +6,10 @@
 #include "pages/MessageBoxesPage.h"
 #include "pages/ParametersPage.h"
 #include "pages/ProgressPage.h"
+#include "pages/TipsPage.h"
+#include "pages/ToastsPage.h"
 #include "pages/ToolTablePage.h"
+#include "pages/WatermarkPage.h"
 
 #include <QCoreApplication>
 
@@ -41,6 +44,12 @@ const QList<PageEntry>& GalleryPages()
          Text(QT_TRANSLATE_NOOP("PageRegistry", "通过有线网络、无线网络或 USB Type-C 找到并连接机床。")), Create<MachinePage>},
         {QStringLiteral("progress"), Text(QT_TRANSLATE_NOOP("PageRegistry", "进度对话框")),
          Text(QT_TRANSLATE_NOOP("PageRegistry", "长时间任务的进度：由程序给出，或自行缓慢前进。")), Create<ProgressPage>},
+        {QStringLiteral("toasts"), Text(QT_TRANSLATE_NOOP("PageRegistry", "视图提示")),
+         Text(QT_TRANSLATE_NOOP("PageRegistry", "加工区上方的红色提示：不抢焦点，鼠标可以穿过。")), Create<ToastsPage>},
+        {QStringLiteral("tips"), Text(QT_TRANSLATE_NOOP("PageRegistry", "工具提示与说明")),
+         Text(QT_TRANSLATE_NOOP("PageRegistry", "磨砂工具提示，以及停留或点击后出现的说明。")), Create<TipsPage>},
+        {QStringLiteral("watermark"), Text(QT_TRANSLATE_NOOP("PageRegistry", "标记与动画")),
+         Text(QT_TRANSLATE_NOOP("PageRegistry", "内部版本的斜纹标记，以及逐帧播放的图片。")), Create<WatermarkPage>},
     };
     // clang-format on
     return pages;

@@ -50,6 +50,7 @@ bool Tour::Prepare(const QStringList& onlyGroups, QString* problem)
     groups.push_back(TourMenus(this));
     groups.push_back(TourMessageBoxes(this));
     groups.push_back(TourProgress(this));
+    groups.push_back(TourNotices(this));
     groups.push_back(TourMachine(this));
     groups.push_back(TourToolTable(this));
     groups.push_back(TourUsb(this));

@@ -123,6 +123,7 @@ TourGroup TourPages(Tour* tour);
 TourGroup TourButtons(Tour* tour);
 TourGroup TourParameters(Tour* tour);
 TourGroup TourMessageBoxes(Tour* tour);
+TourGroup TourNotices(Tour* tour);
 TourGroup TourMachine(Tour* tour);
 TourGroup TourMenus(Tour* tour);
 TourGroup TourProgress(Tour* tour);

@@ -853,6 +853,30 @@
 <context>
     <name>PageRegistry</name>
     <message>
+        <source>视图提示</source>
+        <translation>Toasts</translation>
+    </message>
+    <message>
+        <source>加工区上方的红色提示：不抢焦点，鼠标可以穿过。</source>
+        <translation>Red strips over the work area that take neither the focus nor the mouse.</translation>
+    </message>
+    <message>
+        <source>工具提示与说明</source>
+        <translation>Tips and hints</translation>
+    </message>
+    <message>
+        <source>磨砂工具提示，以及停留或点击后出现的说明。</source>
+        <translation>Frosted tool tips, and notes that show on hover or on a click.</translation>
+    </message>
+    <message>
+        <source>标记与动画</source>
+        <translation>Mark and flip-book</translation>
+    </message>
+    <message>
+        <source>内部版本的斜纹标记，以及逐帧播放的图片。</source>
+        <translation>The slanted mark of an internal build, and pictures that flip.</translation>
+    </message>
+    <message>
         <source>主题按钮</source>
         <translation>Themed buttons</translation>
     </message>
@@ -1282,6 +1306,371 @@
     <message>
         <source>未确认刀具。</source>
         <translation>The tools are not confirmed.</translation>
+    </message>
+</context>
+<context>
+    <name>MachiningView</name>
+    <message>
+        <source>拖动旋转 · 滚轮缩放 · 双击编辑</source>
+        <translation>Drag to turn · wheel to zoom · double-click to edit</translation>
+    </message>
+</context>
+<context>
+    <name>ToastsPage</name>
+    <message>
+        <source>提示显示时，仍可在其下拖动视图。</source>
+        <translation>The view can be dragged under a toast while it shows.</translation>
+    </message>
+    <message>
+        <source>视图：旋转 %1°，俯仰 %2°</source>
+        <translation>View: turned %1°, tilted %2°</translation>
+    </message>
+    <message>
+        <source>编辑模型</source>
+        <translation>Edit model</translation>
+    </message>
+    <message>
+        <source>退出编辑</source>
+        <translation>Leave editing</translation>
+    </message>
+    <message>
+        <source>空号</source>
+        <translation>Free</translation>
+    </message>
+    <message>
+        <source>生成G代码</source>
+        <translation>Make G-code</translation>
+    </message>
+    <message>
+        <source>编辑纹理</source>
+        <translation>Edit texture</translation>
+    </message>
+    <message>
+        <source>模型越界</source>
+        <translation>Outside stock</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>Custom</translation>
+    </message>
+    <message>
+        <source>隐藏外壳</source>
+        <translation>Hide shell</translation>
+    </message>
+    <message>
+        <source>显示外壳</source>
+        <translation>Show shell</translation>
+    </message>
+    <message>
+        <source>隐藏坐标</source>
+        <translation>Hide axes</translation>
+    </message>
+    <message>
+        <source>显示坐标</source>
+        <translation>Show axes</translation>
+    </message>
+    <message>
+        <source>关闭检测</source>
+        <translation>Check off</translation>
+    </message>
+    <message>
+        <source>打开检测</source>
+        <translation>Check on</translation>
+    </message>
+    <message>
+        <source>退出标定</source>
+        <translation>Calibration</translation>
+    </message>
+    <message>
+        <source>面不可加工</source>
+        <translation>Bad face</translation>
+    </message>
+    <message>
+        <source>圆柱面不可加工</source>
+        <translation>Bad cylinder</translation>
+    </message>
+    <message>
+        <source>二十种提示</source>
+        <translation>Twenty toasts</translation>
+    </message>
+    <message>
+        <source>编号即类型的值；10、19、20 与自定义文字是警告，3 没有内容，不显示。</source>
+        <translation>The number is the value of the type; 10, 19, 20 and the custom text are warnings, 3 has no message and does not show.</translation>
+    </message>
+    <message>
+        <source>2 号刀具已使用 40 小时，超过建议寿命；继续使用可能影响表面质量，请在下一次换刀时更换。</source>
+        <translation>Tool 2 has been used for 40 hours, longer than is advised; the surface may suffer. Please replace it at the next tool change.</translation>
+    </message>
+    <message>
+        <source>类型 %1 没有内容。</source>
+        <translation>Type %1 has no message.</translation>
+    </message>
+    <message>
+        <source>显示类型 %1。</source>
+        <translation>Type %1 shows.</translation>
+    </message>
+</context>
+<context>
+    <name>JogPalette</name>
+    <message>
+        <source>Y 轴正向点动</source>
+        <translation>Jog the Y axis forward</translation>
+    </message>
+    <message>
+        <source>X 轴负向点动</source>
+        <translation>Jog the X axis back</translation>
+    </message>
+    <message>
+        <source>X 轴正向点动</source>
+        <translation>Jog the X axis forward</translation>
+    </message>
+    <message>
+        <source>Y 轴负向点动</source>
+        <translation>Jog the Y axis back</translation>
+    </message>
+    <message>
+        <source>主轴抬起</source>
+        <translation>Raise the spindle</translation>
+    </message>
+    <message>
+        <source>主轴落下</source>
+        <translation>Lower the spindle</translation>
+    </message>
+    <message>
+        <source>回到工件零点</source>
+        <translation>Go to the zero point of the part</translation>
+    </message>
+</context>
+<context>
+    <name>TipsPage</name>
+    <message>
+        <source>把指针停在按钮上，提示会淡入；离开或 3.5 秒后淡出。</source>
+        <translation>Rest the pointer on a button: its tip fades in, and out when you leave or after 3.5 seconds.</translation>
+    </message>
+    <message>
+        <source>方料毛坯</source>
+        <translation>Box stock</translation>
+    </message>
+    <message>
+        <source>圆料毛坯
+适合四轴加工</source>
+        <translation>Round stock
+for the fourth axis</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;导入模型&lt;/b&gt;&lt;br&gt;支持 STL、STEP 与 OBJ</source>
+        <translation>&lt;b&gt;Import a model&lt;/b&gt;&lt;br&gt;STL, STEP and OBJ</translation>
+    </message>
+    <message>
+        <source>自适应：毛坯随模型的大小改变，四周各留 2 mm 余量</source>
+        <translation>Adaptive: the stock follows the size of the model, with 2 mm to spare on each side</translation>
+    </message>
+    <message>
+        <source>开始仿真</source>
+        <translation>Start the simulation</translation>
+    </message>
+    <message>
+        <source>点击：%1</source>
+        <translation>Clicked: %1</translation>
+    </message>
+    <message>
+        <source>工具栏</source>
+        <translation>Tool bar</translation>
+    </message>
+    <message>
+        <source>一行、两行、富文本和较长的提示。</source>
+        <translation>Tips of one line, two lines, rich text and more text.</translation>
+    </message>
+    <message>
+        <source>左上</source>
+        <translation>Top left</translation>
+    </message>
+    <message>
+        <source>上</source>
+        <translation>Top</translation>
+    </message>
+    <message>
+        <source>右上</source>
+        <translation>Top right</translation>
+    </message>
+    <message>
+        <source>左</source>
+        <translation>Left</translation>
+    </message>
+    <message>
+        <source>右</source>
+        <translation>Right</translation>
+    </message>
+    <message>
+        <source>左下</source>
+        <translation>Bottom left</translation>
+    </message>
+    <message>
+        <source>下</source>
+        <translation>Bottom</translation>
+    </message>
+    <message>
+        <source>右下</source>
+        <translation>Bottom right</translation>
+    </message>
+    <message>
+        <source>收起</source>
+        <translation>Put away</translation>
+    </message>
+    <message>
+        <source>点动面板</source>
+        <translation>Jog panel</translation>
+    </message>
+    <message>
+        <source>停靠在屏幕的边角；提示不会伸出屏幕。</source>
+        <translation>It docks to the edges of the screen; its tips never leave the screen.</translation>
+    </message>
+    <message>
+        <source>%1的说明</source>
+        <translation>What %1 means</translation>
+    </message>
+    <message>
+        <source>主轴转速</source>
+        <translation>Spindle speed</translation>
+    </message>
+    <message>
+        <source>转/分</source>
+        <translation>rpm</translation>
+    </message>
+    <message>
+        <source>铝合金建议 8000 至 12000 转/分。</source>
+        <translation>8000 to 12000 rpm for aluminium.</translation>
+    </message>
+    <message>
+        <source>进给速度</source>
+        <translation>Feed rate</translation>
+    </message>
+    <message>
+        <source>毫米/分</source>
+        <translation>mm/min</translation>
+    </message>
+    <message>
+        <source>进给过快会折断刀具，过慢会烧伤材料。第一次加工请先用建议值的一半，声音和切屑正常后再逐步提高。</source>
+        <translation>Too fast breaks the tool, too slow burns the material. Start the first job at half the advised rate, and raise it once sound and chips are right.</translation>
+    </message>
+    <message>
+        <source>每层切深</source>
+        <translation>Depth of cut</translation>
+    </message>
+    <message>
+        <source>毫米</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>不超过刀具直径的一半。</source>
+        <translation>At most half the diameter of the tool.</translation>
+    </message>
+    <message>
+        <source>刀具寿命</source>
+        <translation>Tool life</translation>
+    </message>
+    <message>
+        <source>小时</source>
+        <translation>hours</translation>
+    </message>
+    <message>
+        <source>寿命怎样计算</source>
+        <translation>How the life is counted</translation>
+    </message>
+    <message>
+        <source>按主轴带负载的时间累计，空走不计。铝合金按 1 倍，不锈钢按 2.5 倍计入。</source>
+        <translation>The time that the spindle works under load; idle moves do not count. Aluminium counts once, stainless steel two and a half times.</translation>
+    </message>
+    <message>
+        <source>加工参数</source>
+        <translation>Parameters</translation>
+    </message>
+    <message>
+        <source>指针停留或点击感叹号查看说明；刀具寿命只在点击后显示。</source>
+        <translation>Rest on a mark or click it to read what it says; that of the tool life shows on a click alone.</translation>
+    </message>
+    <message>
+        <source>支架_铝合金_粗加工_6mm平底刀_第3次修订.nc</source>
+        <translation>Bracket_aluminium_roughing_6mm_end_mill_revision_3.nc</translation>
+    </message>
+    <message>
+        <source>奖章_黄铜_精加工.nc</source>
+        <translation>Medal_brass_finish.nc</translation>
+    </message>
+    <message>
+        <source>外壳上盖_亚克力_轮廓与孔_3.175mm平底刀_双面装夹_第12次修订_待确认.nc</source>
+        <translation>Upper_cover_acrylic_outline_and_holes_3.175mm_end_mill_two_sides_revision_12_to_be_confirmed.nc</translation>
+    </message>
+    <message>
+        <source>打开：%1</source>
+        <translation>Opened: %1</translation>
+    </message>
+    <message>
+        <source>最近的刀路</source>
+        <translation>Recent tool paths</translation>
+    </message>
+    <message>
+        <source>长文件名逐字换行，放不下的省略；全名在提示里。</source>
+        <translation>Long names wrap by character and are elided; the note has the whole name.</translation>
+    </message>
+</context>
+<context>
+    <name>WatermarkPage</name>
+    <message>
+        <source>加工预览（内部版本）</source>
+        <translation>Preview (internal build)</translation>
+    </message>
+    <message>
+        <source>打开预览窗口</source>
+        <translation>Open the preview</translation>
+    </message>
+    <message>
+        <source>移动</source>
+        <translation>Move</translation>
+    </message>
+    <message>
+        <source>放大</source>
+        <translation>Grow</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>内测标记</source>
+        <translation>Mark of an internal build</translation>
+    </message>
+    <message>
+        <source>标记是一个独立的窗口，鼠标和键盘都能穿过；预览窗口移动或缩放时它跟着走。</source>
+        <translation>The mark is a window of its own that mouse and keys pass through; it follows the preview when that moves or grows.</translation>
+    </message>
+    <message>
+        <source>主轴转动</source>
+        <translation>Spindle</translation>
+    </message>
+    <message>
+        <source>刀库轮播</source>
+        <translation>Tool magazine</translation>
+    </message>
+    <message>
+        <source>慢</source>
+        <translation>Slow</translation>
+    </message>
+    <message>
+        <source>中</source>
+        <translation>Medium</translation>
+    </message>
+    <message>
+        <source>快</source>
+        <translation>Fast</translation>
+    </message>
+    <message>
+        <source>逐帧动画</source>
+        <translation>Flip-book</translation>
+    </message>
+    <message>
+        <source>图片按间隔逐张显示。</source>
+        <translation>Pictures shown one after the other.</translation>
     </message>
 </context>
 </TS>
