@@ -52,13 +52,14 @@ bool Tour::Prepare(const QStringList& onlyGroups, QString* problem)
     groups.push_back(TourProgress(this));
     groups.push_back(TourNotices(this));
     groups.push_back(TourMachine(this));
+    groups.push_back(TourToolConfirmation(this));
     groups.push_back(TourToolTable(this));
     groups.push_back(TourUsb(this));
 
     QStringList unknown = onlyGroups;
     for (TourGroup& group : groups) {
         unknown.removeAll(group.strName);
-        if (group.strName != QLatin1String("pages") && !CorvaneTextHelper::instance()->AppInChineseEnvironment()) {
+        if (!group.bEveryLanguage && !CorvaneTextHelper::instance()->AppInChineseEnvironment()) {
             group.strSkipReason = QStringLiteral("its texts are checked in Chinese");
         }
         if (onlyGroups.isEmpty() || onlyGroups.contains(group.strName)) {

@@ -37,6 +37,7 @@ struct TourGroup
     QString strName;
     QString strSkipReason; ///< not empty: the group is reported as skipped
     std::vector<TourStep> steps;
+    bool bEveryLanguage = false; ///< checks no text of one language alone
 };
 
 /**
@@ -127,6 +128,7 @@ TourGroup TourNotices(Tour* tour);
 TourGroup TourMachine(Tour* tour);
 TourGroup TourMenus(Tour* tour);
 TourGroup TourProgress(Tour* tour);
+TourGroup TourToolConfirmation(Tour* tour);
 TourGroup TourToolTable(Tour* tour);
 TourGroup TourUsb(Tour* tour);
 

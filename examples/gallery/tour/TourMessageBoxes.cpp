@@ -7,7 +7,6 @@
 #include <QApplication>
 #include <QListWidget>
 #include <QPushButton>
-#include <QScrollBar>
 
 using namespace TourLook;
 
@@ -144,16 +143,6 @@ TourGroup TourMessageBoxes(Tour* tour)
     steps.push_back({QStringLiteral("the warning does not come again"),
                      [](TourInput& input) { input.Click(Find(QStringLiteral("boxDiskSpace"))); },
                      [] { return True(!Box(), QStringLiteral("the box has come again")); }});
-    steps.push_back({QStringLiteral("open boxTools"),
-                     [](TourInput& input) { input.Click(Find(QStringLiteral("boxTools"))); },
-                     [] {
-                         auto* list = Box() ? Box()->findChild<QListWidget*>() : nullptr;
-                         return Equal(QStringLiteral("the title"), BoxTitle(), QStringLiteral("请确认刀具")) +
-                                True(list && list->count() == 12, QStringLiteral("there are not eleven tools")) +
-                                True(list && list->verticalScrollBar()->isVisible(),
-                                     QStringLiteral("the tools cannot be scrolled"));
-                     }});
-    steps.push_back(Answer(MsgBtnOk));
     steps.push_back(Open("boxStacked", QStringLiteral("安装包"), QStringLiteral("安装包占用"),
                          {MsgBtnDeletePackage, MsgBtnCancelPlain}));
     steps.push_back({QStringLiteral("a second box over the first"),

@@ -38,7 +38,7 @@ TourStep TourOpenPage(const QString& page)
 
 TourGroup TourPages(Tour*)
 {
-    TourGroup group{QStringLiteral("pages"), QString(), {}};
+    TourGroup group{QStringLiteral("pages"), QString(), {}, true};
     for (const PageEntry& entry : GalleryPages()) {
         group.steps.push_back(TourOpenPage(entry.strName));
     }

@@ -2,10 +2,13 @@
 #include "Tour.h"
 #include "TourLook.h"
 
+#include <CorvaneBase/CorvaneToolBitHelper.h>
 #include <CustomControls/messagebox/CVelmarMessageBox.h>
 
 #include <QApplication>
+#include <QLabel>
 #include <QListWidget>
+#include <QScrollBar>
 #include <QTableView>
 
 using namespace TourLook;
@@ -93,5 +96,32 @@ TourGroup TourToolTable(Tour*)
     steps.push_back({QStringLiteral("answer with Return"),
                      [](TourInput& input) { input.Key(QStringLiteral("Return")); },
                      Told(QStringLiteral("刀具已确认"))});
+    return group;
+}
+
+TourGroup TourToolConfirmation(Tour*)
+{
+    TourGroup group{QStringLiteral("tool-confirmation"), QString(), {}, true};
+    auto& steps = group.steps;
+    steps.push_back(TourOpenPage(QStringLiteral("message-boxes")));
+    steps.push_back(
+        {QStringLiteral("open boxTools"), [](TourInput& input) { input.Click(Find(QStringLiteral("boxTools"))); },
+         [] {
+             auto* list = Box() ? Box()->findChild<QListWidget*>() : nullptr;
+             if (!list || list->count() != 12) {
+                 return QStringLiteral("there is no list of eleven tools; ");
+             }
+             const auto* name = list->itemWidget(list->item(1))->findChild<QLabel*>(QStringLiteral("toolName"));
+             return Equal(QStringLiteral("the first tool"), name ? name->text() : QString(),
+                          CorvaneToolBitHelper::instance()->GetToolNameByType(1)) +
+                    True(list->verticalScrollBar()->isVisible(), QStringLiteral("the tools cannot be scrolled"));
+         }});
+    steps.push_back({QStringLiteral("answer with Return"),
+                     [](TourInput& input) { input.Key(QStringLiteral("Return")); },
+                     [] {
+                         return True(!Box(), QStringLiteral("the box is still there")) +
+                                True(Text(QStringLiteral("boxOutcome")).contains(QStringLiteral("MsgBtnOk")),
+                                     QStringLiteral("the outcome is not told"));
+                     }});
     return group;
 }
