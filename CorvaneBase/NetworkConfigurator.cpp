@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QMutex>
+#include <QNetworkInterface>
 #include <QNetworkProxy>
 #include <QProcess>
 #include <QProcessEnvironment>
@@ -229,6 +230,28 @@ bool ProbeMachine(const QHostAddress& own)
     connectTo(files, kFilePort);
     connectTo(queries, kQueryPort);
     return answered(files, kFirstPortMs) || answered(queries, kSecondPortMs);
+}
+
+QList<Adapter> RunningAdapters(bool (*isWired)(const QNetworkInterface&), QString (*name)(const QNetworkInterface&))
+{
+    QList<Adapter> adapters;
+    const QList<QNetworkInterface> all = QNetworkInterface::allInterfaces();
+    for (const QNetworkInterface& entry : all) {
+        const QNetworkInterface::InterfaceFlags flags = entry.flags();
+        const bool isUp = flags.testFlag(QNetworkInterface::IsUp) && flags.testFlag(QNetworkInterface::IsRunning);
+        if (!isUp || flags.testFlag(QNetworkInterface::IsLoopBack) || !isWired(entry)) {
+            continue;
+        }
+        Adapter adapter{name(entry), entry.humanReadableName(), entry.hardwareAddress(), {}};
+        const QList<QNetworkAddressEntry> addresses = entry.addressEntries();
+        for (const QNetworkAddressEntry& address : addresses) {
+            if (address.ip().protocol() == QAbstractSocket::IPv4Protocol) {
+                adapter.listAddresses.append({address.ip(), address.prefixLength()});
+            }
+        }
+        adapters.append(adapter);
+    }
+    return adapters;
 }
 
 ProgramRun RunProgram(const QString& program, const QStringList& arguments)

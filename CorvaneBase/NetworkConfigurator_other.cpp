@@ -154,24 +154,7 @@ class UnixSystem : public System
 public:
     QList<Adapter> WiredAdapters() override
     {
-        QList<Adapter> adapters;
-        const QList<QNetworkInterface> all = QNetworkInterface::allInterfaces();
-        for (const QNetworkInterface& entry : all) {
-            const QNetworkInterface::InterfaceFlags flags = entry.flags();
-            const bool isUp = flags.testFlag(QNetworkInterface::IsUp) && flags.testFlag(QNetworkInterface::IsRunning);
-            if (!isUp || flags.testFlag(QNetworkInterface::IsLoopBack) || !IsWired(entry)) {
-                continue;
-            }
-            Adapter adapter{entry.name(), entry.humanReadableName(), entry.hardwareAddress(), {}};
-            const QList<QNetworkAddressEntry> addresses = entry.addressEntries();
-            for (const QNetworkAddressEntry& address : addresses) {
-                if (address.ip().protocol() == QAbstractSocket::IPv4Protocol) {
-                    adapter.listAddresses.append({address.ip(), address.prefixLength()});
-                }
-            }
-            adapters.append(adapter);
-        }
-        return adapters;
+        return RunningAdapters(IsWired, [](const QNetworkInterface& adapter) { return adapter.name(); });
     }
 
     bool IsTaken(const Adapter& adapter, const QHostAddress& address) override

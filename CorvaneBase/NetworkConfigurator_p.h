@@ -9,6 +9,8 @@
 #include <functional>
 #include <memory>
 
+class QNetworkInterface;
+
 /**
  * What NetworkConfigurator decides, apart from what it does to the system: so the decisions can be tested without an
  * adapter, and each system brings only its own calls.
@@ -79,6 +81,12 @@ NetworkConfigurator::Result Search(System& system, int rounds);
 
 /** True when a TCP port of the machine accepts or refuses a connection from @p own. Blocks for two seconds at most. */
 bool ProbeMachine(const QHostAddress& own);
+
+/**
+ * The adapters that run, @p isWired holds for and that are no loopback, with their IPv4 addresses. @p name gives what
+ * the system's configuration program takes for each.
+ */
+QList<Adapter> RunningAdapters(bool (*isWired)(const QNetworkInterface&), QString (*name)(const QNetworkInterface&));
 
 /** What came of running a program to its end. */
 struct ProgramRun

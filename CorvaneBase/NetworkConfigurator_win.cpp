@@ -51,25 +51,9 @@ class WindowsSystem : public System
 public:
     QList<Adapter> WiredAdapters() override
     {
-        QList<Adapter> adapters;
-        const QList<QNetworkInterface> all = QNetworkInterface::allInterfaces();
-        for (const QNetworkInterface& entry : all) {
-            const QNetworkInterface::InterfaceFlags flags = entry.flags();
-            const bool isUp = flags.testFlag(QNetworkInterface::IsUp) && flags.testFlag(QNetworkInterface::IsRunning);
-            if (!isUp || flags.testFlag(QNetworkInterface::IsLoopBack) || !IsWired(entry)) {
-                continue;
-            }
-            // The configuration program takes the index in the place of a name, whatever script the name is written in.
-            Adapter adapter{QString::number(entry.index()), entry.humanReadableName(), entry.hardwareAddress(), {}};
-            const QList<QNetworkAddressEntry> addresses = entry.addressEntries();
-            for (const QNetworkAddressEntry& address : addresses) {
-                if (address.ip().protocol() == QAbstractSocket::IPv4Protocol) {
-                    adapter.listAddresses.append({address.ip(), address.prefixLength()});
-                }
-            }
-            adapters.append(adapter);
-        }
-        return adapters;
+        // The configuration program takes the index in the place of a name, whatever script the name is written in.
+        return RunningAdapters(IsWired,
+                               [](const QNetworkInterface& adapter) { return QString::number(adapter.index()); });
     }
 
     bool IsTaken(const Adapter&, const QHostAddress& address) override

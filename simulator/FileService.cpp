@@ -6,31 +6,16 @@
 #include <QTcpSocket>
 
 FileService::FileService(int idleLimitMs, QObject* parent)
-    : QObject(parent)
+    : QTcpServer(parent)
     , m_iIdleLimitMs(idleLimitMs)
 {
-    m_server.setProxy(QNetworkProxy::NoProxy);
-    connect(&m_server, &QTcpServer::newConnection, this, &FileService::Accept);
-}
-
-bool FileService::Listen(const QHostAddress& address, quint16 port)
-{
-    return m_server.listen(address, port);
-}
-
-quint16 FileService::Port() const
-{
-    return m_server.serverPort();
-}
-
-QString FileService::ErrorText() const
-{
-    return m_server.errorString();
+    setProxy(QNetworkProxy::NoProxy);
+    connect(this, &QTcpServer::newConnection, this, &FileService::Accept);
 }
 
 void FileService::Accept()
 {
-    while (QTcpSocket* socket = m_server.nextPendingConnection()) {
+    while (QTcpSocket* socket = nextPendingConnection()) {
         if (m_iSessions >= kSessionLimit) {
             delete socket;
             continue;

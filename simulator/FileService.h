@@ -1,10 +1,9 @@
 #pragma once
 
-#include <QObject>
 #include <QTcpServer>
 
 /** The machine's file service, as far as a host tries it: a greeting and a farewell. */
-class FileService : public QObject
+class FileService : public QTcpServer
 {
     Q_OBJECT
 
@@ -14,14 +13,9 @@ public:
 
     explicit FileService(int idleLimitMs, QObject* parent = nullptr);
 
-    bool Listen(const QHostAddress& address, quint16 port);
-    quint16 Port() const;
-    QString ErrorText() const;
-
 private:
     void Accept();
 
-    QTcpServer m_server;
     int m_iIdleLimitMs;
     int m_iSessions = 0;
 };

@@ -29,14 +29,13 @@ QString Endpoint(const QHostAddress& address, quint16 port)
     return QStringLiteral("%1:%2").arg(address.toString()).arg(port);
 }
 
-template <typename Service>
-bool Listen(Service& service, const QString& what, const QHostAddress& address, quint16 port)
+bool Listen(QTcpServer& server, const QString& what, const QHostAddress& address, quint16 port)
 {
-    if (service.Listen(address, port)) {
+    if (server.listen(address, port)) {
         return true;
     }
     Complain(
-        QStringLiteral("cannot listen for the %1 at %2: %3").arg(what, Endpoint(address, port), service.ErrorText()));
+        QStringLiteral("cannot listen for the %1 at %2: %3").arg(what, Endpoint(address, port), server.errorString()));
     return false;
 }
 
@@ -50,7 +49,7 @@ int Run(const SimulatorOptions& options)
     if (!Listen(machine, QStringLiteral("machine"), options.address, options.iPort)) {
         return ExitCannotListen;
     }
-    QString ready = QStringLiteral("ready machine=%1").arg(Endpoint(options.address, machine.Port()));
+    QString ready = QStringLiteral("ready machine=%1").arg(Endpoint(options.address, machine.serverPort()));
 
     FileService files(options.iIdleLimitMs);
     if (options.iFtpPort != 0 && options.fault.eKind != Fault::FtpDown) {
@@ -58,11 +57,11 @@ int Run(const SimulatorOptions& options)
             Complain(QStringLiteral("--ftp-port chooses another port, and --ftp-port 0 runs without a file service"));
             return ExitCannotListen;
         }
-        ready += QStringLiteral(" files=%1").arg(Endpoint(options.address, files.Port()));
+        ready += QStringLiteral(" files=%1").arg(Endpoint(options.address, files.serverPort()));
     }
 
     Announcer announcer(MachineProtocol::Announcement(options.strSerial, options.strModel, options.strAnnouncedAddress,
-                                                      machine.Port(), options.strInterface),
+                                                      machine.serverPort(), options.strInterface),
                         options.iAnnouncePort);
     if (options.bAnnounce) {
         announcer.Start();

@@ -3,16 +3,21 @@
 #include <CorvaneBase/CorvaneFonts.h>
 #include <CustomControls/buttons/CMultiLineLabel.h>
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QFontInfo>
 #include <QFontMetrics>
 #include <QIcon>
 #include <QLinearGradient>
 #include <QMouseEvent>
+#include <QPaintEngine>
 #include <QPainter>
+#include <QPixmapCache>
 #include <QPointer>
+#include <QStringBuilder>
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
@@ -42,9 +47,14 @@ constexpr int kRegularWeight = 400;
 // The background images carry their own shadow, which stands one pixel to the left of the button.
 constexpr int kImageShift = -1;
 
+// A fill of more device pixels than this is painted anew each time, or it would push everything else out of the cache.
+constexpr int kLargestKeptFill = 1 << 16;
+// Tells our keys in the cache from those of others.
+constexpr quint64 kFillKey = 0x0043'0056'0042'0046; // "CVBF" in UTF-16
+
 QString Image(const QString& image)
 {
-    return QLatin1String("image:") + image + QLatin1Char(';');
+    return QLatin1String("image:") % image % QLatin1Char(';');
 }
 
 // Setting a style sheet parses it and polishes the label, even if it is the same text. Only a change is worth that.
@@ -68,9 +78,80 @@ public:
     bool eventFilter(QObject*, QEvent* event) override { return event->type() == QEvent::StyleChange; }
 };
 
+// The label of the icon. An image of a sheet is painted as the widget's background, before the paint event, so most of
+// them have nothing left to paint, and need no painter and no styled frame for it.
+class IconLabel : public QLabel
+{
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        const bool hasContent = frameShape() != NoFrame || !text().isEmpty() || !pixmap().isNull() ||
+                                movie() != nullptr || !picture().isNull();
+        if (hasContent) {
+            QLabel::paintEvent(event);
+        }
+    }
+};
+
+// Whether the text can be no more than the value of one declaration: a host may hide others behind it.
 bool HoldsOneValue(const QString& text)
 {
-    return !text.contains(QLatin1Char(';'));
+    return std::none_of(text.begin(), text.end(), [](QChar c) { return c == u';' || c == u'{' || c == u'}'; });
+}
+
+// Whether a sheet other than the widget's own may decide on its look.
+bool InheritsSheet(const QWidget* widget)
+{
+    for (const QWidget* above = widget->parentWidget(); above != nullptr; above = above->parentWidget()) {
+        if (!above->styleSheet().isEmpty()) {
+            return true;
+        }
+    }
+    return !qApp->styleSheet().isEmpty();
+}
+
+// The device pixels of one logical pixel where their grids coincide, as they do on most screens; otherwise 0.
+int WholeScale(const QPainter& painter)
+{
+    const QTransform& transform = painter.deviceTransform();
+    const int scale = int(transform.m11());
+    const bool whole = transform.type() <= QTransform::TxScale && transform.m11() == scale &&
+                       transform.m22() == scale && transform.dx() == int(transform.dx()) &&
+                       transform.dy() == int(transform.dy());
+    return whole && scale > 0 && painter.paintEngine()->type() == QPaintEngine::Raster ? scale : 0;
+}
+
+// Draws what painter would draw as a rounded rectangle of one colour, from a kept picture that equal buttons share:
+// smooth corners cost as much as the whole text. (A gradient's rounding depends on its place on the screen.)
+void DrawSolidFill(QPainter& painter, const QSize& size, int radius, const QColor& color)
+{
+    const auto draw = [&](QPainter& canvas) {
+        canvas.setBrush(color);
+        canvas.drawRoundedRect(QRect(QPoint(), size), radius, radius);
+    };
+    const int scale = WholeScale(painter);
+    const bool kept = !size.isEmpty() && radius > 0 && scale > 0 &&
+                      qint64(size.width()) * size.height() * scale * scale <= kLargestKeptFill;
+    if (!kept) {
+        draw(painter);
+        return;
+    }
+    const std::array<quint64, 6> traits = {kFillKey,        quint64(size.width()), quint64(size.height()),
+                                           quint64(radius), quint64(scale),        color.rgba64()};
+    const QString key(reinterpret_cast<const QChar*>(traits.data()), sizeof(traits) / sizeof(QChar));
+    QPixmap pixmap;
+    if (!QPixmapCache::find(key, &pixmap)) {
+        pixmap = QPixmap(size * scale);
+        pixmap.setDevicePixelRatio(scale);
+        pixmap.fill(Qt::transparent);
+        QPainter canvas(&pixmap);
+        canvas.setRenderHints(painter.renderHints());
+        canvas.setPen(painter.pen());
+        draw(canvas);
+        canvas.end();
+        QPixmapCache::insert(key, pixmap);
+    }
+    painter.drawPixmap(0, 0, pixmap);
 }
 
 template <typename T>
@@ -114,7 +195,7 @@ CVelmarButton::CVelmarButton(EnumButtonType type, bool vertical, bool iconFirst,
 {
     setWindowFlags(Qt::CustomizeWindowHint | Qt::FramelessWindowHint);
 
-    m_pIconLabel = new QLabel;
+    m_pIconLabel = new IconLabel;
     m_pTextLabel = new CMultiLineLabel;
     if (m_bVertical) {
         m_pTextLayoutV = new QVBoxLayout;
@@ -493,18 +574,18 @@ int CVelmarButton::StateIndex() const
 QString CVelmarButton::IconSheet(int look) const
 {
     if (m_bIconBorder) {
-        return Image(m_strIcon[look]) + m_strIconBorder + m_strTextColor[look] + QLatin1String(";border-radius:") +
-               QString::number(m_iRadius) + QLatin1String("px;");
+        return Image(m_strIcon[look]) % m_strIconBorder % m_strTextColor[look] % QLatin1String(";border-radius:") %
+               QString::number(m_iRadius) % QLatin1String("px;");
     }
-    return Image(m_strIcon[look]) + QLatin1String("background:transparent;");
+    return Image(m_strIcon[look]) % QLatin1String("background:transparent;");
 }
 
 QString CVelmarButton::TextSheet(int look) const
 {
     if (BearsTextImage(m_eType)) {
-        return Image(m_strTextIcon[look]) + QLatin1String("background:transparent;");
+        return Image(m_strTextIcon[look]) % QLatin1String("background:transparent;");
     }
-    return QLatin1String("color:") + m_strTextColor[look] + QLatin1String(";background:transparent;");
+    return QLatin1String("color:") % m_strTextColor[look] % QLatin1String(";background:transparent;");
 }
 
 void CVelmarButton::SetButtonStyle()
@@ -517,7 +598,13 @@ void CVelmarButton::SetButtonStyle()
     }
     // The image of ButtonTypeIconImageChoose follows the mouse even while the button is chosen.
     const bool textChosen = m_bChooseFocus && TextCanBeChosen(m_eType);
-    ApplySheet(m_pTextLabel, TextSheet(textChosen ? static_cast<int>(LookChosen) : look));
+    const int textLook = textChosen ? static_cast<int>(LookChosen) : look;
+    ApplySheet(m_pTextLabel, TextSheet(textLook));
+    if (!BearsTextImage(m_eType) && HoldsOneValue(m_strTextColor[textLook]) && !InheritsSheet(m_pTextLabel)) {
+        // The transparent background needs no painter of its own. The toolkit takes this back whenever it reads a
+        // sheet.
+        m_pTextLabel->setAttribute(Qt::WA_StyledBackground, false);
+    }
 }
 
 void CVelmarButton::RedrawBackground(QPainter& painter)
@@ -525,8 +612,7 @@ void CVelmarButton::RedrawBackground(QPainter& painter)
     const int look = m_bChooseFocus && FillCanBeChosen(m_eType) ? static_cast<int>(LookChosen) : StateIndex();
     switch (m_iBackgroundKind) {
     case BackgroundSolid:
-        painter.setBrush(m_colorSolid[look]);
-        painter.drawRoundedRect(rect(), m_iRadius, m_iRadius);
+        DrawSolidFill(painter, size(), m_iRadius, m_colorSolid[look]);
         break;
     case BackgroundGradient: {
         const int middle = m_iWidth / 2;

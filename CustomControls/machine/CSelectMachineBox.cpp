@@ -488,7 +488,8 @@ void CSelectMachineBox::GetMachineSNViaTcp(QString& error, const QString& ip, un
         if (query->socket) {
             query->socket->setParent(nullptr);
         }
-        Q_EMIT SignalGetMachineSNFinished(ok, serial, message);
+        // The analyser loses the panel of a lambda that another lambda has captured, and calls it null.
+        Q_EMIT SignalGetMachineSNFinished(ok, serial, message); // NOLINT(clang-analyzer-core.CallAndMessage)
         query->emitting = false;
         if (!query->socket) {
             return;

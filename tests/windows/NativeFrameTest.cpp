@@ -21,6 +21,29 @@ LRESULT Send(QWidget& window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0
     return SendMessageW(HandleOf(window), message, wParam, lParam);
 }
 
+// Shows the window where the points of these tests count on it: 400 by 300.
+bool ShowInPlace(QWidget& window)
+{
+    window.setGeometry(200, 200, 400, 300);
+    window.show();
+    return QTest::qWaitForWindowExposed(&window);
+}
+
+// A title bar with a button around (120, 20).
+class BarWithButton : public QWidget
+{
+public:
+    explicit BarWithButton(QWidget& window)
+        : QWidget(&window)
+        , button(this)
+    {
+        setGeometry(0, 0, 400, 40);
+        button.setGeometry(100, 10, 60, 20);
+    }
+
+    QPushButton button;
+};
+
 void PutCursor(const QWidget& window, const QPoint& point)
 {
     const QPoint global = window.mapToGlobal(point);
@@ -126,9 +149,7 @@ void NativeFrameTest::eachZoneAnswersTheHitTest()
         QWidget bar(each);
         bar.setGeometry(0, 0, 400, 40);
         QMetaObject::invokeMethod(each, "setTitleBar", Q_ARG(QWidget*, &bar));
-        each->setGeometry(200, 200, 400, 300);
-        each->show();
-        QVERIFY(QTest::qWaitForWindowExposed(each));
+        QVERIFY(ShowInPlace(*each));
         PutCursor(*each, point);
         QCOMPARE(int(Send(*each, WM_NCHITTEST)), zone);
         each->hide();
@@ -138,9 +159,7 @@ void NativeFrameTest::eachZoneAnswersTheHitTest()
 void NativeFrameTest::theHitTestTakesTheCursorAndNotTheMessage()
 {
     FramelessMainWindow window;
-    window.setGeometry(200, 200, 400, 300);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(ShowInPlace(window));
     PutCursor(window, QPoint(2, 150));
     const QPoint elsewhere = window.mapToGlobal(QPoint(398, 298));
     QCOMPARE(int(Send(window, WM_NCHITTEST, 0, MAKELPARAM(elsewhere.x(), elsewhere.y()))), HTLEFT);
@@ -149,14 +168,9 @@ void NativeFrameTest::theHitTestTakesTheCursorAndNotTheMessage()
 void NativeFrameTest::aVisibleButtonOnTheTitleBarStaysClient()
 {
     FramelessMainWindow window;
-    window.setGeometry(200, 200, 400, 300);
-    QWidget bar(&window);
-    bar.setGeometry(0, 0, 400, 40);
-    QPushButton button(&bar);
-    button.setGeometry(100, 10, 60, 20);
+    BarWithButton bar(window);
     window.setTitleBar(&bar);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(ShowInPlace(window));
     PutCursor(window, QPoint(120, 20));
     qintptr result = 7;
     QVERIFY(!Feed(window, WM_NCHITTEST, &result));
@@ -166,15 +180,10 @@ void NativeFrameTest::aVisibleButtonOnTheTitleBarStaysClient()
 void NativeFrameTest::aHiddenButtonCountsAsTitleBar()
 {
     FramelessMainWindow window;
-    window.setGeometry(200, 200, 400, 300);
-    QWidget bar(&window);
-    bar.setGeometry(0, 0, 400, 40);
-    QPushButton button(&bar);
-    button.setGeometry(100, 10, 60, 20);
+    BarWithButton bar(window);
     window.setTitleBar(&bar);
-    window.show();
-    button.hide();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    bar.button.hide();
+    QVERIFY(ShowInPlace(window));
     PutCursor(window, QPoint(120, 20));
     QCOMPARE(int(Send(window, WM_NCHITTEST)), HTCAPTION);
 }
@@ -182,9 +191,7 @@ void NativeFrameTest::aHiddenButtonCountsAsTitleBar()
 void NativeFrameTest::withoutTitleBarOnlyTheEdgesAnswer()
 {
     FramelessMainWindow window;
-    window.setGeometry(200, 200, 400, 300);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(ShowInPlace(window));
     qintptr result = 7;
     PutCursor(window, QPoint(200, 20));
     QVERIFY(!Feed(window, WM_NCHITTEST, &result));
@@ -197,9 +204,7 @@ void NativeFrameTest::withoutTitleBarOnlyTheEdgesAnswer()
 void NativeFrameTest::disabledResizeLeavesTheCornersAlone()
 {
     FramelessMainWindow window;
-    window.setGeometry(200, 200, 400, 300);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(ShowInPlace(window));
     window.setResizeEnable(false);
     PutCursor(window, QPoint(2, 2));
     qintptr result = 7;
@@ -215,9 +220,7 @@ void NativeFrameTest::aPressOnTheTitleBarIsTold()
         QWidget bar(each);
         bar.setGeometry(0, 0, 400, 40);
         QMetaObject::invokeMethod(each, "setTitleBar", Q_ARG(QWidget*, &bar));
-        each->setGeometry(200, 200, 400, 300);
-        each->show();
-        QVERIFY(QTest::qWaitForWindowExposed(each));
+        QVERIFY(ShowInPlace(*each));
         PutCursor(*each, QPoint(200, 20));
         QSignalSpy pressed(each, SIGNAL(SignalTitleBarMousePressed()));
         qintptr result = 0;
@@ -233,14 +236,9 @@ void NativeFrameTest::aPressOnTheTitleBarIsTold()
 void NativeFrameTest::aPressOnAButtonIsNotTold()
 {
     FramelessMainWindow window;
-    window.setGeometry(200, 200, 400, 300);
-    QWidget bar(&window);
-    bar.setGeometry(0, 0, 400, 40);
-    QPushButton button(&bar);
-    button.setGeometry(100, 10, 60, 20);
+    BarWithButton bar(window);
     QSignalSpy pressed(&window, &FramelessMainWindow::SignalTitleBarMousePressed);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(ShowInPlace(window));
     qintptr result = 0;
     PutCursor(window, QPoint(200, 20));
     Feed(window, WM_NCLBUTTONDOWN, &result, HTCAPTION); // no title bar yet
@@ -255,9 +253,7 @@ void NativeFrameTest::aPressOnAButtonIsNotTold()
 void NativeFrameTest::aMaximisedWindowHasMarginsOfFive()
 {
     FramelessMainWindow window;
-    window.setGeometry(200, 200, 400, 300);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(ShowInPlace(window));
     QCOMPARE(window.contentsMargins(), QMargins(0, 0, 0, 0));
     window.showMaximized();
     QTRY_VERIFY(IsZoomed(HandleOf(window)));
@@ -273,9 +269,7 @@ void NativeFrameTest::aMaximisedWindowHasMarginsOfFive()
 void NativeFrameTest::movingIsToldByTheMainWindowAlone()
 {
     FramelessMainWindow window;
-    window.setGeometry(200, 200, 400, 300);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(ShowInPlace(window));
     QSignalSpy moving(&window, &FramelessMainWindow::SignalMoving);
     RECT place = {200, 200, 600, 500};
     Send(window, WM_MOVING, 0, reinterpret_cast<LPARAM>(&place));
@@ -454,12 +448,10 @@ void NativeFrameTest::foreignAndEmptyMessagesAreLeftAlone()
 void NativeFrameTest::aTitleBarMayBeDeletedWhileSet()
 {
     FramelessMainWindow window;
-    window.setGeometry(200, 200, 400, 300);
     auto* bar = new QWidget(&window);
     bar->setGeometry(0, 0, 400, 40);
     window.setTitleBar(bar);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(ShowInPlace(window));
     delete bar;
     PutCursor(window, QPoint(200, 20));
     qintptr result = 7;

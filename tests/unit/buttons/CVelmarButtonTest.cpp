@@ -6,7 +6,11 @@
 #include <tests/support/TestMain.h>
 
 #include <QBoxLayout>
+#include <QPainter>
+#include <QPicture>
 #include <QSignalSpy>
+
+#include <functional>
 
 namespace {
 
@@ -135,6 +139,12 @@ private Q_SLOTS:
     void unknownKindPaintsNothingAndStylesTheTextOnly();
     void imagesTakeTheSizeOfTheMoment();
     void radiusRoundsTheCornersWithTheNextPaint();
+    void fillEqualsOneDrawnDirectly_data();
+    void fillEqualsOneDrawnDirectly();
+    void iconLabelPaintsWhatAHostPutsIntoIt_data();
+    void iconLabelPaintsWhatAHostPutsIntoIt();
+    void sheetsFromAboveReachAHoveredText_data();
+    void sheetsFromAboveReachAHoveredText();
     void hoverEntersAndLeaves();
     void everyChangeAsksForARepaint_data();
     void everyChangeAsksForARepaint();
@@ -692,6 +702,149 @@ void CVelmarButtonTest::radiusRoundsTheCornersWithTheNextPaint()
     QCOMPARE(counter.count, 0);
     QCOMPARE(Picture(*stage.button).pixelColor(0, 0).alpha(), 0);
     QCOMPARE(Picture(*stage.button).pixelColor(40, 0).alpha(), 255);
+}
+
+void CVelmarButtonTest::fillEqualsOneDrawnDirectly_data()
+{
+    QTest::addColumn<QColor>("color");
+    QTest::newRow("opaque") << QColor(10, 200, 30);
+    QTest::newRow("translucent") << QColor(255, 0, 0, 100);
+    QTest::newRow("transparent") << QColor(Qt::transparent);
+    QTest::newRow("of another space") << QColor::fromHsvF(0.3F, 0.5F, 0.7F, 0.9F);
+    QTest::newRow("invalid") << QColor();
+}
+
+void CVelmarButtonTest::fillEqualsOneDrawnDirectly()
+{
+    QFETCH(QColor, color);
+    CVelmarButton button(ButtonTypeIcon, false, true, 0, nullptr);
+    button.SetBackgroundSolid(color, color, color, color);
+    for (const QSize size : {QSize(80, 40), QSize(33, 17), QSize(400, 300)}) {
+        button.setMaximumSize(size);
+        button.resize(size);
+        for (const int radius : {0, 4, 17, -3}) {
+            button.SetBtnRadius(radius);
+            for (const qreal ratio : {1.0, 1.5, 2.0}) {
+                const auto canvas = [&] {
+                    QImage image((QSizeF(size) * ratio).toSize(), QImage::Format_RGB32);
+                    image.setDevicePixelRatio(ratio);
+                    image.fill(QColor(239, 239, 239));
+                    return image;
+                };
+                QImage expected = canvas();
+                QPainter painter(&expected);
+                painter.setRenderHint(QPainter::Antialiasing);
+                painter.setPen(Qt::NoPen);
+                painter.setBrush(color);
+                painter.drawRoundedRect(QRect(QPoint(), size), radius, radius);
+                painter.end();
+                for (const char* time : {"first", "second"}) {
+                    QImage image = canvas();
+                    button.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
+                    QVERIFY2(image == expected,
+                             qPrintable(QStringLiteral("width %1, radius %2, ratio %3, %4 time")
+                                            .arg(QString::number(size.width()), QString::number(radius),
+                                                 QString::number(ratio), QString::fromLatin1(time))));
+                }
+            }
+        }
+    }
+}
+
+void CVelmarButtonTest::iconLabelPaintsWhatAHostPutsIntoIt_data()
+{
+    QTest::addColumn<std::function<void(QLabel*)>>("put");
+    QTest::newRow("pixmap") << std::function<void(QLabel*)>([](QLabel* label) {
+        QPixmap pixmap(40, 40);
+        pixmap.fill(Qt::red);
+        label->setPixmap(pixmap);
+    });
+    QTest::newRow("text") << std::function<void(QLabel*)>([](QLabel* label) { label->setText(QStringLiteral("X")); });
+    QTest::newRow("frame") << std::function<void(QLabel*)>(
+        [](QLabel* label) { label->setFrameStyle(int(QFrame::Box) | int(QFrame::Plain)); });
+    QTest::newRow("picture") << std::function<void(QLabel*)>([](QLabel* label) {
+        QPicture picture;
+        QPainter painter(&picture);
+        painter.fillRect(0, 0, 30, 30, Qt::red);
+        painter.end();
+        label->setPicture(picture);
+    });
+}
+
+void CVelmarButtonTest::iconLabelPaintsWhatAHostPutsIntoIt()
+{
+    QFETCH(std::function<void(QLabel*)>, put);
+    const Stage stage(ButtonTypeIcon);
+    const QImage before = Picture(*stage.button);
+    QVERIFY(before == Picture(*stage.button));
+    put(stage.button->m_pIconLabel);
+    QVERIFY(before != Picture(*stage.button));
+}
+
+void CVelmarButtonTest::sheetsFromAboveReachAHoveredText_data()
+{
+    QTest::addColumn<bool>("toApplication");
+    QTest::addColumn<QString>("sheet");
+    for (const bool toApplication : {false, true}) {
+        const char* where = toApplication ? "application" : "window";
+        QTest::addRow("%s: border", where) << toApplication << QStringLiteral("QLabel{border:2px solid red;}");
+        QTest::addRow("%s: background", where) << toApplication << QStringLiteral("*{background-color:#ddeeff;}");
+        QTest::addRow("%s: hover", where) << toApplication << QStringLiteral("QLabel:hover{border:1px dotted blue;}");
+        QTest::addRow("%s: image", where)
+            << toApplication << QStringLiteral("QLabel{image:url(:/icon/simcontrol/ico_warning_line_b_nor.png);}");
+    }
+}
+
+// A text label whose own sheet paints no background is spared that step of painting; a sheet from above may need it.
+void CVelmarButtonTest::sheetsFromAboveReachAHoveredText()
+{
+    QFETCH(bool, toApplication);
+    QFETCH(QString, sheet);
+    const auto hover = [](const Stage& stage) {
+        stage.Enter();
+        stage.Leave();
+    };
+    Stage early(ButtonTypeIconTextChoose);
+    Picture(early);
+    hover(early);
+    const QImage plain = Picture(early);
+
+    const auto restore = qScopeGuard([] { qApp->setStyleSheet(QString()); });
+    const auto apply = [&](QWidget& window, const QString& text) {
+        if (toApplication) {
+            qApp->setStyleSheet(text);
+        } else {
+            window.setStyleSheet(text);
+        }
+    };
+    apply(early, sheet);
+    Stage late(ButtonTypeIconTextChoose);
+    apply(late, sheet);
+    QCOMPARE(Picture(early), Picture(late));
+    QVERIFY(Picture(early) != plain || sheet.contains(QLatin1String(":hover")));
+
+    hover(early);
+    QCOMPARE(Picture(early), Picture(late));
+
+    // A button that moves into a window with a sheet is dressed there.
+    apply(early, QString());
+    apply(late, QString());
+    hover(early);
+    hover(late);
+    QCOMPARE(Picture(early), plain);
+    apply(late, sheet);
+    Stage moved(ButtonTypeIconTextChoose);
+    if (toApplication) {
+        return;
+    }
+    hover(moved);
+    QWidget dressed;
+    dressed.resize(late.size());
+    dressed.setStyleSheet(sheet);
+    moved.button->setParent(&dressed);
+    moved.button->show();
+    dressed.show();
+    QCOMPARE(Picture(dressed), Picture(late));
 }
 
 void CVelmarButtonTest::hoverEntersAndLeaves()
