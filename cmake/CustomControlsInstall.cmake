@@ -5,11 +5,12 @@ set(customcontrols_cmakedir "${CMAKE_INSTALL_LIBDIR}/cmake")
 # One package per library: each is found on its own, and CustomControls brings CorvaneBase along.
 function(customcontrols_install_package package target)
     install(TARGETS ${target} EXPORT ${package}Targets
-        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
-        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
+        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT Runtime
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Runtime NAMELINK_COMPONENT Development
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Development
         INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-    install(EXPORT ${package}Targets NAMESPACE ${package}:: DESTINATION ${customcontrols_cmakedir}/${package})
+    install(EXPORT ${package}Targets NAMESPACE ${package}:: DESTINATION ${customcontrols_cmakedir}/${package}
+        COMPONENT Development)
     configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/${package}Config.cmake.in"
         "${CMAKE_CURRENT_BINARY_DIR}/${package}Config.cmake"
         INSTALL_DESTINATION ${customcontrols_cmakedir}/${package})
@@ -17,12 +18,27 @@ function(customcontrols_install_package package target)
         COMPATIBILITY SameMajorVersion)
     install(FILES "${CMAKE_CURRENT_BINARY_DIR}/${package}Config.cmake"
                   "${CMAKE_CURRENT_BINARY_DIR}/${package}ConfigVersion.cmake"
-        DESTINATION ${customcontrols_cmakedir}/${package})
+        DESTINATION ${customcontrols_cmakedir}/${package} COMPONENT Development)
+    configure_file("${PROJECT_SOURCE_DIR}/cmake/${package}.pc.in" "${CMAKE_CURRENT_BINARY_DIR}/${package}.pc" @ONLY)
+    install(FILES "${CMAKE_CURRENT_BINARY_DIR}/${package}.pc" DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
+        COMPONENT Development)
 endfunction()
+
+# A pkg-config file names its folders as they are, or as they stand below the prefix.
+foreach(dir LIBDIR INCLUDEDIR)
+    if(IS_ABSOLUTE "${CMAKE_INSTALL_${dir}}")
+        set(customcontrols_pc_${dir} "${CMAKE_INSTALL_${dir}}")
+    else()
+        set(customcontrols_pc_${dir} "\${prefix}/${CMAKE_INSTALL_${dir}}")
+    endif()
+endforeach()
+# The prefix is found from the place of the file itself, so that an installed tree can be moved.
+file(RELATIVE_PATH customcontrols_pc_prefix "${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig" "${CMAKE_INSTALL_PREFIX}")
+set(customcontrols_pc_prefix "\${pcfiledir}/${customcontrols_pc_prefix}")
 
 if(CORVANE_BASE STREQUAL "bundled")
     customcontrols_install_package(CorvaneBase CorvaneBase)
-    install(DIRECTORY "${PROJECT_SOURCE_DIR}/CorvaneBase" DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
+    install(DIRECTORY "${PROJECT_SOURCE_DIR}/CorvaneBase" DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT Development
         FILES_MATCHING PATTERN "*.h" PATTERN "*_p.h" EXCLUDE)
 endif()
 
@@ -33,5 +49,52 @@ set(customcontrols_excluded PATTERN "platform" EXCLUDE PATTERN "resources" EXCLU
 foreach(header IN LISTS customcontrols_internal_headers)
     list(APPEND customcontrols_excluded PATTERN "${header}" EXCLUDE)
 endforeach()
-install(DIRECTORY "${PROJECT_SOURCE_DIR}/CustomControls" DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/CustomControls" DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT Development
     FILES_MATCHING PATTERN "*.h" ${customcontrols_excluded})
+
+get_target_property(customcontrols_translations CustomControlsInternal CUSTOMCONTROLS_TRANSLATIONS)
+install(FILES ${customcontrols_translations} DESTINATION ${CMAKE_INSTALL_DATADIR}/CustomControls/translations
+    COMPONENT Runtime)
+
+# An installed library finds the one beside it, wherever the tree was put.
+if(UNIX AND NOT APPLE AND BUILD_SHARED_LIBS)
+    set_target_properties(CustomControls PROPERTIES INSTALL_RPATH "$ORIGIN")
+endif()
+
+# The programs that show and try the library come along where they are built.
+foreach(program gallery machine-simulator)
+    if(TARGET ${program})
+        install(TARGETS ${program} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT Programs)
+        if(UNIX AND NOT APPLE)
+            file(RELATIVE_PATH customcontrols_rpath "${CMAKE_INSTALL_FULL_BINDIR}" "${CMAKE_INSTALL_FULL_LIBDIR}")
+            set_target_properties(${program} PROPERTIES INSTALL_RPATH "$ORIGIN/${customcontrols_rpath}")
+        endif()
+    endif()
+endforeach()
+
+if(NOT PROJECT_IS_TOP_LEVEL)
+    return()
+endif()
+set(CPACK_PACKAGE_NAME customcontrols)
+set(CPACK_PACKAGE_VENDOR "CustomControls")
+set(CPACK_PACKAGE_CONTACT "CustomControls <customcontrols@localhost>")
+set(CPACK_RESOURCE_FILE_LICENSE "${PROJECT_SOURCE_DIR}/LICENSE")
+set(CPACK_PACKAGE_DESCRIPTION_FILE "${PROJECT_SOURCE_DIR}/cmake/description.txt")
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_GENERATOR TGZ)
+if(UNIX AND NOT APPLE)
+    set(CPACK_GENERATOR DEB)
+endif()
+# One package with library, headers and programs; what it links is read off its files.
+set(CPACK_DEB_COMPONENT_INSTALL OFF)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# The libraries depend on each other: those of the package itself are looked for where they are built.
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${CMAKE_BINARY_DIR}/lib")
+# The platform that draws on a display is a plug-in, which no file links.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-noto-cjk")
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "qt6-base-dev")
+set(CPACK_DEBIAN_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+include(CPack)

@@ -1,0 +1,386 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US">
+<context>
+    <name>CPlainTextEdit</name>
+    <message>
+        <source>剪切</source>
+        <translation>Cut</translation>
+    </message>
+    <message>
+        <source>复制</source>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>粘贴</source>
+        <translation>Paste</translation>
+    </message>
+    <message>
+        <source>全选</source>
+        <translation>Select All</translation>
+    </message>
+</context>
+<context>
+    <name>CProgressWidget</name>
+    <message>
+        <source>提示</source>
+        <translation>Notice</translation>
+    </message>
+    <message>
+        <source>重建中，请稍候</source>
+        <translation>Reconstructing, please wait</translation>
+    </message>
+    <message>
+        <source>断言失败: %1
+文件: %2
+行号: %3</source>
+        <translation>Assertion failed: %1
+File: %2
+Line: %3</translation>
+    </message>
+    <message>
+        <source>关键逻辑错误</source>
+        <translation>Critical logic error</translation>
+    </message>
+    <message>
+        <source>恢复扫描状态</source>
+        <translation>Restoring the scan state</translation>
+    </message>
+    <message>
+        <source>三维拼接</source>
+        <translation>3D registration</translation>
+    </message>
+    <message>
+        <source>表面重建</source>
+        <translation>Surface reconstruction</translation>
+    </message>
+</context>
+<context>
+    <name>CSelectMachineBox</name>
+    <message>
+        <source>请将本机手动配置以下数据后重试</source>
+        <translation>Set this computer up by hand as follows, then try again</translation>
+    </message>
+    <message>
+        <source>打开网络和Internet</source>
+        <translation>Open Network &amp; Internet</translation>
+    </message>
+    <message>
+        <source>IP分配：手动</source>
+        <translation>IP assignment: Manual</translation>
+    </message>
+    <message>
+        <source>IP地址：192.168.7.x</source>
+        <translation>IP address: 192.168.7.x</translation>
+    </message>
+    <message>
+        <source>IP掩码：255.255.255.0</source>
+        <translation>Subnet mask: 255.255.255.0</translation>
+    </message>
+    <message>
+        <source>指定IP</source>
+        <translation>Enter IP</translation>
+    </message>
+    <message>
+        <source>重新扫描</source>
+        <translation>Scan again</translation>
+    </message>
+    <message>
+        <source>连接</source>
+        <translation>Connect</translation>
+    </message>
+    <message>
+        <source>为确保数据传输稳定和结果准确，请参照示意图进行有线方式连接机床</source>
+        <translation>For stable data transfer and accurate results, connect the machine by cable as shown</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>自动配置</source>
+        <translation>Set up automatically</translation>
+    </message>
+    <message>
+        <source>自动连接失败，有线网卡未探测到机床</source>
+        <translation>Automatic connection failed: no machine was found on a wired adapter</translation>
+    </message>
+    <message>
+        <source>连接中，请稍候...</source>
+        <translation>Connecting, please wait...</translation>
+    </message>
+    <message>
+        <source>手动配置</source>
+        <translation>Set up by hand</translation>
+    </message>
+    <message>
+        <source>新建连接</source>
+        <translation>New connection</translation>
+    </message>
+    <message>
+        <source>扫描中...</source>
+        <translation>Scanning...</translation>
+    </message>
+    <message>
+        <source>设备列表</source>
+        <translation>Machines</translation>
+    </message>
+    <message>
+        <source>序列号</source>
+        <translation>Serial number</translation>
+    </message>
+    <message>
+        <source>Velmar CNC机器</source>
+        <translation>Velmar CNC machine</translation>
+    </message>
+    <message>
+        <source>连接中...</source>
+        <translation>Connecting...</translation>
+    </message>
+    <message>
+        <source>清除</source>
+        <translation>Clear</translation>
+    </message>
+    <message>
+        <source>指定IP连接</source>
+        <translation>Connect by IP address</translation>
+    </message>
+    <message>
+        <source>获取机床序列号失败</source>
+        <translation>The machine's serial number could not be read</translation>
+    </message>
+    <message>
+        <source>获取机床序列号失败：%1</source>
+        <translation>The machine's serial number could not be read: %1</translation>
+    </message>
+    <message>
+        <source>获取机床序列号失败：序列号为空</source>
+        <translation>The machine's serial number could not be read: it is empty</translation>
+    </message>
+    <message>
+        <source>连接超时，请检查机床连接状态</source>
+        <translation>Connection timed out. Please check the machine's connection</translation>
+    </message>
+    <message>
+        <source>重试</source>
+        <translation>Retry</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Notice</translation>
+    </message>
+    <message>
+        <source>机床连接成功！</source>
+        <translation>Machine connected!</translation>
+    </message>
+    <message>
+        <source>机床连接失败</source>
+        <translation>The machine could not be connected</translation>
+    </message>
+    <message>
+        <source>机床连接失败【%1】</source>
+        <translation>The machine could not be connected [%1]</translation>
+    </message>
+    <message>
+        <source>正在进行自动配置并连接机床，请稍候</source>
+        <translation>Setting up and connecting the machine, please wait</translation>
+    </message>
+    <message>
+        <source>连接机床</source>
+        <translation>Connect machine</translation>
+    </message>
+    <message>
+        <source>机床连接失败!</source>
+        <translation>The machine could not be connected!</translation>
+    </message>
+    <message>
+        <source>获取机床序列号失败!</source>
+        <translation>The machine's serial number could not be read!</translation>
+    </message>
+</context>
+<context>
+    <name>CSelectMachineIPLineEdit</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>IP地址:</source>
+        <translation>IP address:</translation>
+    </message>
+    <message>
+        <source>请输入IPv4地址</source>
+        <translation>Enter an IPv4 address</translation>
+    </message>
+</context>
+<context>
+    <name>CTextBrowser</name>
+    <message>
+        <source>复制</source>
+        <translation>Copy</translation>
+    </message>
+</context>
+<context>
+    <name>CVelmarMessageBox</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Notice</translation>
+    </message>
+    <message>
+        <source>不再提醒</source>
+        <translation>Do not remind me again</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>是</source>
+        <translation>Yes</translation>
+    </message>
+    <message>
+        <source>否</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>删除安装包</source>
+        <translation>Delete package</translation>
+    </message>
+    <message>
+        <source>稍后提示</source>
+        <translation>Remind me later</translation>
+    </message>
+    <message>
+        <source>立刻升级</source>
+        <translation>Upgrade now</translation>
+    </message>
+    <message>
+        <source>稍后重启</source>
+        <translation>Restart later</translation>
+    </message>
+    <message>
+        <source>立即重启</source>
+        <translation>Restart now</translation>
+    </message>
+    <message>
+        <source>上传参数</source>
+        <translation>Upload parameters</translation>
+    </message>
+    <message>
+        <source>忽略</source>
+        <translation>Ignore</translation>
+    </message>
+    <message>
+        <source>重试</source>
+        <translation>Retry</translation>
+    </message>
+    <message>
+        <source>退出中</source>
+        <translation>Exiting</translation>
+    </message>
+    <message>
+        <source>打开文件位置</source>
+        <translation>Open file location</translation>
+    </message>
+    <message>
+        <source>打开文件夹位置</source>
+        <translation>Open folder location</translation>
+    </message>
+    <message>
+        <source>磁盘空间不足</source>
+        <translation>Low disk space</translation>
+    </message>
+</context>
+<context>
+    <name>CVelmarSelectBox</name>
+    <message>
+        <source>添加毛坯</source>
+        <translation>Add stock</translation>
+    </message>
+    <message>
+        <source>添加</source>
+        <translation>Add</translation>
+    </message>
+</context>
+<context>
+    <name>CWatermarkWidget</name>
+    <message>
+        <source>Dornhall 内 测 版 本，禁 止 外 发 ！</source>
+        <translation>Dornhall internal test build. Do not distribute!</translation>
+    </message>
+</context>
+<context>
+    <name>MyProgressBar</name>
+    <message>
+        <source>MyProgressBar</source>
+        <translation>MyProgressBar</translation>
+    </message>
+</context>
+<context>
+    <name>ToastWidget</name>
+    <message>
+        <source>双击模型进行编辑</source>
+        <translation>Double-click the model to edit it</translation>
+    </message>
+    <message>
+        <source>双击空白区域退出编辑</source>
+        <translation>Double-click an empty area to stop editing</translation>
+    </message>
+    <message>
+        <source>点击【生成G代码】按钮进行G代码生成</source>
+        <translation>Click [Generate G-code] to generate the G-code</translation>
+    </message>
+    <message>
+        <source>双击纹理进行编辑</source>
+        <translation>Double-click the texture to edit it</translation>
+    </message>
+    <message>
+        <source>检测到部分模型在毛坯外，越界部分将无法切割</source>
+        <translation>Part of the model lies outside the stock; that part cannot be cut</translation>
+    </message>
+    <message>
+        <source>机床外壳已隐藏</source>
+        <translation>Machine enclosure hidden</translation>
+    </message>
+    <message>
+        <source>机床外壳已显示</source>
+        <translation>Machine enclosure shown</translation>
+    </message>
+    <message>
+        <source>局部坐标已隐藏</source>
+        <translation>Local coordinates hidden</translation>
+    </message>
+    <message>
+        <source>局部坐标已显示</source>
+        <translation>Local coordinates shown</translation>
+    </message>
+    <message>
+        <source>碰撞检测已关闭</source>
+        <translation>Collision check off</translation>
+    </message>
+    <message>
+        <source>碰撞检测已打开</source>
+        <translation>Collision check on</translation>
+    </message>
+    <message>
+        <source>已退出扫描仪标定</source>
+        <translation>Scanner calibration ended</translation>
+    </message>
+    <message>
+        <source>选择的面不支持加工</source>
+        <translation>The selected face cannot be machined</translation>
+    </message>
+    <message>
+        <source>选取的圆柱面不支持加工</source>
+        <translation>The selected cylindrical face cannot be machined</translation>
+    </message>
+</context>
+</TS>
