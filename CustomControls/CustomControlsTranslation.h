@@ -6,8 +6,8 @@
 
 /**
  * Puts the library's own texts into the language of @p locale, for every control that is built from now on; those that
- * stand keep theirs. The texts are Chinese by themselves; English comes with the library. A host calls it once after its
- * QApplication is there, and again when its user changes the language:
+ * stand keep theirs. The texts are Chinese by themselves; English comes with the library. A host calls it once after
+ * its QApplication is there, and again when its user changes the language:
  *
  * @code
  * QApplication application(argc, argv);

@@ -85,7 +85,7 @@ Subdirectory)
         exit 1
     fi
     # The images come along, though nothing refers to them by a symbol.
-    nm "$work/hello/hello" | grep -q qInitResources_CustomControls || { echo "the images are missing"; exit 1; }
+    nm "$work/hello/hello" | grep qInitResources_CustomControls >/dev/null || { echo "the images are missing"; exit 1; }
     greet "$work/hello/hello"
     ;;
 External)

@@ -125,9 +125,7 @@ CorvaneRegisterHelper* CorvaneRegisterHelper::instance()
     return &helper;
 }
 
-void CorvaneRegisterHelper::SetCurrentMachineConnectStatus(bool, const QString&, const QString&)
-{
-}
+void CorvaneRegisterHelper::SetCurrentMachineConnectStatus(bool, const QString&, const QString&) {}
 
 NetworkConfigurator::Result NetworkConfigurator::autoDiscoverAndConfigureCnc(int)
 {
