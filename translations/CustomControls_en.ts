@@ -147,19 +147,19 @@ Line: %3</translation>
     </message>
     <message>
         <source>获取机床序列号失败</source>
-        <translation>The machine's serial number could not be read</translation>
+        <translation>The machine&apos;s serial number could not be read</translation>
     </message>
     <message>
         <source>获取机床序列号失败：%1</source>
-        <translation>The machine's serial number could not be read: %1</translation>
+        <translation>The machine&apos;s serial number could not be read: %1</translation>
     </message>
     <message>
         <source>获取机床序列号失败：序列号为空</source>
-        <translation>The machine's serial number could not be read: it is empty</translation>
+        <translation>The machine&apos;s serial number could not be read: it is empty</translation>
     </message>
     <message>
         <source>连接超时，请检查机床连接状态</source>
-        <translation>Connection timed out. Please check the machine's connection</translation>
+        <translation>Connection timed out. Please check the machine&apos;s connection</translation>
     </message>
     <message>
         <source>重试</source>
@@ -195,7 +195,7 @@ Line: %3</translation>
     </message>
     <message>
         <source>获取机床序列号失败!</source>
-        <translation>The machine's serial number could not be read!</translation>
+        <translation>The machine&apos;s serial number could not be read!</translation>
     </message>
 </context>
 <context>
@@ -218,6 +218,13 @@ Line: %3</translation>
     <message>
         <source>复制</source>
         <translation>Copy</translation>
+    </message>
+</context>
+<context>
+    <name>CTextEdit</name>
+    <message>
+        <source>长度：</source>
+        <translation>Length: </translation>
     </message>
 </context>
 <context>
@@ -298,6 +305,25 @@ Line: %3</translation>
         <source>磁盘空间不足</source>
         <translation>Low disk space</translation>
     </message>
+    <message>
+        <source>请确保已将刀具放置在对应库位。</source>
+        <translation>Make sure that each tool is in its place of the magazine.</translation>
+    </message>
+</context>
+<context>
+    <name>CVelmarMessageListItem</name>
+    <message>
+        <source>刀具</source>
+        <translation>Tool</translation>
+    </message>
+    <message>
+        <source>库位</source>
+        <translation>Place</translation>
+    </message>
+    <message>
+        <source>策略</source>
+        <translation>Strategy</translation>
+    </message>
 </context>
 <context>
     <name>CVelmarSelectBox</name>
@@ -322,6 +348,57 @@ Line: %3</translation>
     <message>
         <source>MyProgressBar</source>
         <translation>MyProgressBar</translation>
+    </message>
+</context>
+<context>
+    <name>QTableView</name>
+    <message>
+        <source>铰刀</source>
+        <translation>Reamer</translation>
+    </message>
+    <message>
+        <source>立铣刀</source>
+        <translation>End mill</translation>
+    </message>
+    <message>
+        <source>避空立铣刀</source>
+        <translation>Relieved end mill</translation>
+    </message>
+    <message>
+        <source>球头铣刀</source>
+        <translation>Ball nose mill</translation>
+    </message>
+    <message>
+        <source>避空球头铣刀</source>
+        <translation>Relieved ball nose mill</translation>
+    </message>
+    <message>
+        <source>圆鼻铣刀</source>
+        <translation>Bull nose mill</translation>
+    </message>
+    <message>
+        <source>锥刀</source>
+        <translation>Engraving cutter</translation>
+    </message>
+    <message>
+        <source>锥度球头铣刀</source>
+        <translation>Tapered ball nose mill</translation>
+    </message>
+    <message>
+        <source>位置</source>
+        <translation>No.</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>直径</source>
+        <translation>Diameter</translation>
+    </message>
+    <message>
+        <source>长度</source>
+        <translation>Length</translation>
     </message>
 </context>
 <context>
