@@ -6,12 +6,14 @@
 #include <CorvaneBase/CDebugLog.h>
 #include <CorvaneBase/CorvaneFonts.h>
 #include <CorvaneBase/CorvaneTextHelper.h>
+#include <CustomControls/CustomControlsTranslation.h>
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFile>
 #include <QIcon>
+#include <QLocale>
 #include <QPalette>
 #include <QStyleFactory>
 #include <QTranslator>
@@ -98,9 +100,10 @@ int main(int argc, char* argv[])
         }
         CorvaneTextHelper::instance()->SetAppInChineseEnvironment(value == QLatin1String("zh"));
     }
+    const bool chinese = CorvaneTextHelper::instance()->AppInChineseEnvironment();
+    LoadCustomControlsTranslation(QLocale(chinese ? QLocale::Chinese : QLocale::English));
     QTranslator translator;
-    if (!CorvaneTextHelper::instance()->AppInChineseEnvironment() &&
-        translator.load(QStringLiteral(":/gallery/translations/gallery_en.qm"))) {
+    if (!chinese && translator.load(QStringLiteral(":/gallery/translations/gallery_en.qm"))) {
         QApplication::installTranslator(&translator);
     }
 
