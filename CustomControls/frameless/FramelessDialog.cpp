@@ -85,6 +85,9 @@ void FramelessDialog::showEvent(QShowEvent* event)
 
 bool FramelessDialog::nativeEvent(const QByteArray& eventType, void* message, qintptr* result)
 {
+    if (!message || !result) {
+        return false; // nothing is told of a message that will not be answered
+    }
     const QPointer<FramelessDialog> self(this);
     if (FrameNoticeOf(Frame(), eventType, message) == FrameNoticeTitlePressed) {
         Q_EMIT SignalTitleBarMousePressed();

@@ -74,6 +74,9 @@ void FramelessMainWindow::showEvent(QShowEvent* event)
 
 bool FramelessMainWindow::nativeEvent(const QByteArray& eventType, void* message, qintptr* result)
 {
+    if (!message || !result) {
+        return false; // nothing is told of a message that will not be answered
+    }
     const QPointer<FramelessMainWindow> self(this);
     switch (FrameNoticeOf(Frame(), eventType, message)) {
     case FrameNoticeMoving:

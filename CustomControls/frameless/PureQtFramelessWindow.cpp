@@ -3,6 +3,9 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPointer>
+
+#include <utility>
 
 PureQtFramelessWindow::PureQtFramelessWindow(QWidget* parent)
     : QMainWindow(parent)
@@ -29,8 +32,8 @@ PureQtFramelessWindow::~PureQtFramelessWindow()
 
 void PureQtFramelessWindow::setTitleBar(QWidget* titleBar)
 {
-    if (m_pTitleBar) {
-        m_pTitleBar->removeEventFilter(this);
+    if (QWidget* earlier = std::exchange(m_pTitleBar, nullptr)) {
+        releaseTitleBar(earlier);
     }
     m_pTitleBar = titleBar;
     if (m_pTitleBar) {
@@ -54,25 +57,24 @@ void PureQtFramelessWindow::removeTitleBar(QWidget* titleBar)
     if (!titleBar) {
         return;
     }
-    if (m_listTitleBars.contains(titleBar)) {
-        titleBar->removeEventFilter(this);
-        m_listTitleBars.removeAll(titleBar);
+    if (m_listTitleBars.removeAll(titleBar) > 0) {
+        releaseTitleBar(titleBar);
     }
     if (titleBar == m_pTitleBar) {
-        m_pTitleBar->removeEventFilter(this);
         m_pTitleBar = nullptr;
+        releaseTitleBar(titleBar);
     }
 }
 
 void PureQtFramelessWindow::clearTitleBars()
 {
-    for (QWidget* bar : std::as_const(m_listTitleBars)) {
-        bar->removeEventFilter(this);
+    const QList<QWidget*> bars = std::exchange(m_listTitleBars, {});
+    QWidget* earlier = std::exchange(m_pTitleBar, nullptr);
+    for (QWidget* bar : bars) {
+        releaseTitleBar(bar);
     }
-    m_listTitleBars.clear();
-    if (m_pTitleBar) {
-        m_pTitleBar->removeEventFilter(this);
-        m_pTitleBar = nullptr;
+    if (earlier) {
+        releaseTitleBar(earlier);
     }
 }
 
@@ -119,7 +121,11 @@ void PureQtFramelessWindow::mouseMoveEvent(QMouseEvent* event)
         updateCursorShape(event->position().toPoint());
     } else if (m_eDragState == TitleBar) {
         if (isMaximized()) {
+            const QPointer<PureQtFramelessWindow> self(this);
             Q_EMIT windowStateChange(false);
+            if (!self) {
+                return;
+            }
         }
         move(pos() + globalPos - m_ptDragStart);
         m_ptDragStart = globalPos;
@@ -263,6 +269,15 @@ void PureQtFramelessWindow::restoreCursor()
     if (m_bOverrideCursor) {
         QGuiApplication::restoreOverrideCursor();
         m_bOverrideCursor = false;
+    }
+}
+
+void PureQtFramelessWindow::releaseTitleBar(QWidget* titleBar)
+{
+    titleBar->removeEventFilter(this);
+    if (titleBar != m_pTitleBar && !m_listTitleBars.contains(titleBar)) {
+        // A child dies after this class's own part of the window: it must not call back into that.
+        disconnect(titleBar, &QObject::destroyed, this, &PureQtFramelessWindow::forgetTitleBar);
     }
 }
 

@@ -72,6 +72,7 @@ private:
     QRect getResizeGeometry(const QPoint& globalPos);
     void updateCursorShape(const QPoint& point);
     void restoreCursor();
+    void releaseTitleBar(QWidget* titleBar);
     void forgetTitleBar(QObject* titleBar);
 
     QList<QWidget*> m_listTitleBars;

@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QPointer>
 #include <QStyleHints>
+#include <QTimer>
 #include <QWidget>
 #include <QWindow>
 
@@ -59,6 +60,8 @@ public:
         , m_current(std::move(current))
         , m_titlePressed(std::move(titlePressed))
     {
+        m_ask.setSingleShot(true);
+        connect(&m_ask, &QTimer::timeout, this, &FrameInput::Ask);
         window->installEventFilter(this);
         FollowHandle();
     }
@@ -81,9 +84,7 @@ public:
         case QEvent::MouseButtonDblClick:
             return DoubleClick(*static_cast<QMouseEvent*>(event));
         case QEvent::MouseButtonRelease:
-            m_bTitlePressed = false;
-            m_pressedEdges = {};
-            return false;
+            return Release();
         case QEvent::Leave:
         case QEvent::Hide:
             ShowEdgeCursor({});
@@ -117,8 +118,7 @@ private:
 
     bool Press(const QMouseEvent& event)
     {
-        m_bTitlePressed = false;
-        m_pressedEdges = {};
+        Forget();
         if (event.button() != Qt::LeftButton) {
             return false;
         }
@@ -126,43 +126,94 @@ private:
         if (const Qt::Edges edges = EdgesOf(zone)) {
             ShowEdgeCursor({});
             m_pressedEdges = edges;
-            return m_pHandle->startSystemResize(edges);
+            return true;
         }
         if (zone == FrameZoneCaption) {
             m_bTitlePressed = true;
             m_ptPress = event.globalPosition().toPoint();
+            const QPointer<QObject> self(this);
             m_titlePressed();
+            return !self; // a window that is gone takes no event any more
         }
         return false;
     }
 
-    // The move begins with the first real motion: begun at the press, it would swallow a double click. A motion that
-    // still arrives here says that the system has not taken the pointer yet, so it is asked again.
+    bool Release()
+    {
+        if (m_bReleasing) {
+            return false;
+        }
+        const bool onEdge = m_pressedEdges != Qt::Edges();
+        Forget();
+        return onEdge;
+    }
+
+    // A move or resize begins with the first real motion: begun at the press, it would swallow a double click. A motion
+    // that still arrives here says that the system has not taken the pointer yet, so it is asked again. It is asked
+    // once the events at hand are through: a release at another place comes as a motion first, and what is begun after
+    // the release sticks to the pointer.
     bool Move(const QMouseEvent& event)
     {
         if (!event.buttons().testFlag(Qt::LeftButton)) {
-            m_bTitlePressed = false;
-            m_pressedEdges = {};
+            Forget();
             if (event.buttons() == Qt::NoButton) {
                 ShowEdgeCursor(EdgesOf(ZoneOf(event)));
             }
             return false;
         }
-        if (m_pressedEdges) {
-            return m_pHandle->startSystemResize(m_pressedEdges);
-        }
         const QPoint way = event.globalPosition().toPoint() - m_ptPress;
-        if (m_bTitlePressed && way.manhattanLength() >= QGuiApplication::styleHints()->startDragDistance()) {
-            return m_pHandle->startSystemMove();
+        if (!m_pressedEdges &&
+            (!m_bTitlePressed || way.manhattanLength() < QGuiApplication::styleHints()->startDragDistance())) {
+            return false;
         }
-        return false;
+        m_ask.start();
+        return true;
+    }
+
+    void Ask()
+    {
+        if (!m_pHandle) {
+            return;
+        }
+        if (m_pressedEdges) {
+            m_pHandle->startSystemResize(m_pressedEdges);
+        } else if (m_bTitlePressed && m_pHandle->startSystemMove()) {
+            ReleaseWidget();
+        }
+    }
+
+    // The system may keep the release to itself. The widget that was pressed would wait for it, and take the next press
+    // of the mouse wherever that falls.
+    void ReleaseWidget()
+    {
+        if (m_bReleased) {
+            return;
+        }
+        m_bReleased = true;
+        m_bReleasing = true;
+        const QPointer<QObject> self(this);
+        QMouseEvent release(QEvent::MouseButtonRelease, m_pHandle->mapFromGlobal(m_ptPress), m_ptPress, Qt::LeftButton,
+                            Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(m_pHandle, &release);
+        if (self) {
+            m_bReleasing = false;
+        }
+    }
+
+    void Forget()
+    {
+        m_ask.stop();
+        m_bTitlePressed = false;
+        m_bReleased = false;
+        m_pressedEdges = {};
     }
 
     bool DoubleClick(const QMouseEvent& event)
     {
-        m_bTitlePressed = false;
-        if (event.button() != Qt::LeftButton || ZoneOf(event) != FrameZoneCaption) {
-            return false;
+        Forget();
+        const FrameZone zone = event.button() == Qt::LeftButton ? ZoneOf(event) : FrameZoneNone;
+        if (zone != FrameZoneCaption) {
+            return EdgesOf(zone) != Qt::Edges();
         }
         m_pWindow->setWindowState(m_pWindow->windowState() ^ Qt::WindowMaximized);
         return true;
@@ -189,6 +240,9 @@ private:
     Qt::Edges m_edges; // the cursor shows these
     Qt::Edges m_pressedEdges;
     bool m_bTitlePressed = false;
+    bool m_bReleased = false; // the widget below knows that the press is over
+    bool m_bReleasing = false;
+    QTimer m_ask;
     QPoint m_ptPress;
 };
 

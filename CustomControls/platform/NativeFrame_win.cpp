@@ -2,6 +2,7 @@
 #include <CustomControls/platform/NativeFrame.h>
 
 #include <QCursor>
+#include <QEvent>
 #include <QWidget>
 
 #include <windows.h>
@@ -81,13 +82,39 @@ void FillFrame(const NativeFrame& frame, WPARAM update)
     }
 }
 
-} // namespace
-
-void AdoptNativeFrame(QWidget* window, std::function<NativeFrame()>, std::function<void()>)
+void AddFrameStyles(QWidget* window)
 {
     const HWND hwnd = reinterpret_cast<HWND>(window->winId());
     const LONG style = GetWindowLongW(hwnd, GWL_STYLE);
     SetWindowLongW(hwnd, GWL_STYLE, style | WS_CAPTION | WS_THICKFRAME | WS_MAXIMIZEBOX);
+}
+
+/** Gives each later handle the styles too: a change of the window's flags or parent makes a new one. */
+class FrameStyles : public QObject
+{
+public:
+    explicit FrameStyles(QWidget* window)
+        : QObject(window)
+    {
+        window->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        auto* window = static_cast<QWidget*>(watched);
+        if (event->type() == QEvent::WinIdChange && window->internalWinId() && window->isWindow()) {
+            AddFrameStyles(window);
+        }
+        return false;
+    }
+};
+
+} // namespace
+
+void AdoptNativeFrame(QWidget* window, std::function<NativeFrame()>, std::function<void()>)
+{
+    AddFrameStyles(window);
+    new FrameStyles(window);
 }
 
 FrameNotice FrameNoticeOf(const NativeFrame& frame, const QByteArray& eventType, void* message)

@@ -15,6 +15,7 @@
 #include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QListWidget>
+#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStackedWidget>
@@ -39,7 +40,7 @@ GalleryWindow::GalleryWindow(const GalleryOptions& options, QWidget* parent)
 {
     setObjectName(QStringLiteral("galleryWindow"));
     setWindowTitle(QStringLiteral("CustomControls"));
-    resize(1280, 900);
+    resize(QSize(1280, 900).boundedTo(screen()->availableSize()));
 
     m_pPageList->setObjectName(QStringLiteral("pageList"));
     m_pPageList->setFixedWidth(ListWidth);

@@ -1,6 +1,7 @@
 #include "PageRegistry.h"
 
 #include "pages/ButtonsPage.h"
+#include "pages/FramelessWindowsPage.h"
 #include "pages/MachinePage.h"
 #include "pages/MenusPage.h"
 #include "pages/MessageBoxesPage.h"
@@ -50,6 +51,8 @@ const QList<PageEntry>& GalleryPages()
          Text(QT_TRANSLATE_NOOP("PageRegistry", "磨砂工具提示，以及停留或点击后出现的说明。")), Create<TipsPage>},
         {QStringLiteral("watermark"), Text(QT_TRANSLATE_NOOP("PageRegistry", "标记与动画")),
          Text(QT_TRANSLATE_NOOP("PageRegistry", "内部版本的斜纹标记，以及逐帧播放的图片。")), Create<WatermarkPage>},
+        {QStringLiteral("frameless-windows"), Text(QT_TRANSLATE_NOOP("PageRegistry", "无边框窗口")),
+         Text(QT_TRANSLATE_NOOP("PageRegistry", "没有系统边框的主窗口和对话框，标题栏由程序自己画。")), Create<FramelessWindowsPage>},
     };
     // clang-format on
     return pages;

@@ -5,6 +5,7 @@
 
 #include <CorvaneBase/CDebugLog.h>
 #include <CorvaneBase/CorvaneFonts.h>
+#include <CorvaneBase/CorvaneSignalHelper.h>
 #include <CorvaneBase/CorvaneTextHelper.h>
 #include <CustomControls/CustomControlsTranslation.h>
 
@@ -129,6 +130,7 @@ int main(int argc, char* argv[])
     if (parser.isSet(page) && !window.OpenPage(parser.value(page))) {
         return Complain(QStringLiteral("there is no page \"%1\"; --list-pages names them").arg(parser.value(page)));
     }
+    CorvaneSignalHelper::instance()->AdjustWindowPosition(&window);
     window.show();
 
     if (parser.isSet(tour)) {

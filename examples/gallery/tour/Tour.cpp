@@ -45,6 +45,7 @@ bool Tour::Prepare(const QStringList& onlyGroups, QString* problem)
     }
     std::vector<TourGroup> groups;
     groups.push_back(TourPages(this));
+    groups.push_back(TourWindows(this));
     groups.push_back(TourButtons(this));
     groups.push_back(TourParameters(this));
     groups.push_back(TourMenus(this));
@@ -75,8 +76,8 @@ bool Tour::Prepare(const QStringList& onlyGroups, QString* problem)
 
 int Tour::Run()
 {
-    if (!TourInput::IsAvailable()) {
-        std::puts("tour skipped: it needs an X11 display and xdotool");
+    if (!TourInput::Missing().isEmpty()) {
+        std::printf("tour skipped: it needs %s\n", qUtf8Printable(TourInput::Missing()));
         return ExitSkipped;
     }
     m_pWatchdog = std::make_unique<TourWatchdog>(HungMs, TotalMs);

@@ -121,6 +121,7 @@ private:
 
 // The groups, each in a file of its own.
 TourGroup TourPages(Tour* tour);
+TourGroup TourWindows(Tour* tour);
 TourGroup TourButtons(Tour* tour);
 TourGroup TourParameters(Tour* tour);
 TourGroup TourMessageBoxes(Tour* tour);

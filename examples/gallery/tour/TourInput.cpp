@@ -1,32 +1,25 @@
 #include "TourInput.h"
 
-#include <QGuiApplication>
 #include <QScrollArea>
-#include <QStandardPaths>
 #include <QWidget>
 
 namespace {
-constexpr auto Program = "xdotool";
 // Long enough for the window system to tell a move from the press that follows it.
 constexpr auto Pause = "0.04";
 constexpr auto TypingDelayMs = "25";
+constexpr auto DoubleClickDelayMs = "60";
 } // namespace
 
 TourInput::TourInput(QObject* parent)
     : QObject(parent)
+    , m_player(this)
 {
-    connect(&m_process, &QProcess::errorOccurred, this, [this] { m_strProblem = m_process.errorString(); });
-    connect(&m_process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this, [this](int code) {
-        if (code != 0) {
-            m_strProblem = QStringLiteral("xdotool: ") + QString::fromLocal8Bit(m_process.readAllStandardError());
-        }
-    });
+    connect(&m_player, &TourPlayer::SignalFailed, this, [this](const QString& reason) { m_strProblem = reason; });
 }
 
-bool TourInput::IsAvailable()
+QString TourInput::Missing()
 {
-    return QGuiApplication::platformName() == QLatin1String("xcb") &&
-           !QStandardPaths::findExecutable(QLatin1String(Program)).isEmpty();
+    return TourPlayer::Missing();
 }
 
 void TourInput::Click(QWidget* widget)
@@ -66,6 +59,18 @@ void TourInput::MoveTo(QWidget* widget, const QPoint& position)
                 << QLatin1String(Pause);
 }
 
+void TourInput::MoveBy(const QPoint& way)
+{
+    m_arguments << QStringLiteral("mousemove_relative") << QStringLiteral("--") << QString::number(way.x())
+                << QString::number(way.y()) << QStringLiteral("sleep") << QLatin1String(Pause);
+}
+
+void TourInput::DoubleClick()
+{
+    m_arguments << QStringLiteral("click") << QStringLiteral("--repeat") << QStringLiteral("2")
+                << QStringLiteral("--delay") << QLatin1String(DoubleClickDelayMs) << QStringLiteral("1");
+}
+
 void TourInput::Press()
 {
     m_arguments << QStringLiteral("mousedown") << QStringLiteral("1") << QStringLiteral("sleep")
@@ -92,7 +97,7 @@ void TourInput::Key(const QString& key)
 void TourInput::Send()
 {
     if (m_strProblem.isEmpty() && !m_arguments.isEmpty()) {
-        m_process.start(QLatin1String(Program), m_arguments);
+        m_player.Start(m_arguments);
     }
     m_strSent = m_arguments.join(QLatin1Char(' '));
     m_arguments.clear();
@@ -100,7 +105,7 @@ void TourInput::Send()
 
 bool TourInput::IsBusy() const
 {
-    return m_process.state() != QProcess::NotRunning;
+    return m_player.IsBusy();
 }
 
 QString TourInput::Sent() const

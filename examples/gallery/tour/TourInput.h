@@ -1,14 +1,15 @@
 #pragma once
 
+#include "TourPlayer.h"
+
 #include <QObject>
 #include <QPoint>
-#include <QProcess>
 #include <QStringList>
 
 class QWidget;
 
 /**
- * Moves the real pointer and presses the real keys, through xdotool: events take the whole way through the window
+ * Moves the real pointer and presses the real keys: events take the whole way through the window
  * system, so focus, grabs and stacking are what a user meets. Operations are gathered and sent together; nothing here
  * waits, so a control that opens a dialog of its own in answer finds no code of the tour on the stack.
  */
@@ -19,14 +20,18 @@ class TourInput : public QObject
 public:
     explicit TourInput(QObject* parent = nullptr);
 
-    /** False when xdotool is missing or this is no X11 display. */
-    static bool IsAvailable();
+    /** What is missing for real input; empty when there is such. */
+    static QString Missing();
 
     /** Scrolls the widget into view, moves to its middle and clicks. Null counts as a failure of the step. */
     void Click(QWidget* widget);
     void Click(QWidget* widget, const QPoint& position);
     void MoveTo(QWidget* widget);
     void MoveTo(QWidget* widget, const QPoint& position);
+    /** From where the pointer stands, in pixels of the screen. */
+    void MoveBy(const QPoint& way);
+    /** Twice, where the pointer stands. */
+    void DoubleClick();
     void Press();
     void Release();
     void Type(const QString& text);
@@ -44,7 +49,7 @@ public:
     void Clear();
 
 private:
-    QProcess m_process;
+    TourPlayer m_player;
     QStringList m_arguments;
     QString m_strSent;
     QString m_strProblem;

@@ -27,7 +27,7 @@ TourSimulator::TourSimulator(const QString& program, QObject* parent)
 TourSimulator::~TourSimulator()
 {
     m_process.disconnect(this);
-    m_process.terminate();
+    End();
     if (m_process.state() != QProcess::NotRunning && !m_process.waitForFinished(EndMs)) {
         m_process.kill();
         m_process.waitForFinished(EndMs);
@@ -42,7 +42,7 @@ void TourSimulator::Start(const QStringList& arguments, const QString& networkNa
     m_command += arguments;
     m_output.clear();
     if (IsRunning()) {
-        m_process.terminate();
+        End();
     } else {
         Launch();
     }
@@ -51,7 +51,7 @@ void TourSimulator::Start(const QStringList& arguments, const QString& networkNa
 void TourSimulator::Stop()
 {
     m_command.clear();
-    m_process.terminate();
+    End();
 }
 
 bool TourSimulator::IsReady() const
@@ -67,6 +67,15 @@ bool TourSimulator::IsRunning() const
 QString TourSimulator::Output() const
 {
     return QString::fromUtf8(m_output).trimmed();
+}
+
+void TourSimulator::End()
+{
+#ifdef Q_OS_WIN
+    m_process.kill(); // a program without a window hears no request to end
+#else
+    m_process.terminate();
+#endif
 }
 
 void TourSimulator::Launch()

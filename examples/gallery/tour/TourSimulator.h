@@ -25,6 +25,7 @@ public:
 
 private:
     void Launch();
+    void End();
 
     QProcess m_process;
     QString m_strProgram;

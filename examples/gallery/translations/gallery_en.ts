@@ -236,6 +236,101 @@
     </message>
 </context>
 <context>
+    <name>FramelessWindowsPage</name>
+    <message>
+        <source>还没有打开窗口。</source>
+        <translation>No window has been opened yet.</translation>
+    </message>
+    <message>
+        <source>刀路仿真</source>
+        <translation>Toolpath simulation</translation>
+    </message>
+    <message>
+        <source>主窗口：贴边、最大化、换屏</source>
+        <translation>A main window: snaps, maximises</translation>
+    </message>
+    <message>
+        <source>编辑刀具</source>
+        <translation>Edit a cutter</translation>
+    </message>
+    <message>
+        <source>对话框：Esc 不会丢掉输入</source>
+        <translation>A dialog: Esc throws nothing away</translation>
+    </message>
+    <message>
+        <source>机床坐标</source>
+        <translation>Machine position</translation>
+    </message>
+    <message>
+        <source>浮动面板：自己移动和缩放</source>
+        <translation>A panel: moves and resizes itself</translation>
+    </message>
+    <message>
+        <source>打开窗口</source>
+        <translation>Open a window</translation>
+    </message>
+    <message>
+        <source>标题栏由程序自己画；空白处可拖动，双击最大化，边缘可缩放。</source>
+        <translation>The program draws the title bar: its free part moves the window, a double click maximises, the edges resize.</translation>
+    </message>
+    <message>
+        <source>主窗口。移动、缩放、贴边和最大化都交给系统；边缘深 5 像素。</source>
+        <translation>A main window. Moving, resizing, snapping and maximising are left to the system; the edges are 5 pixels deep.</translation>
+    </message>
+    <message>
+        <source>对话框。同样交给系统；Esc 不关闭它，最大化时松开 Esc 还原。</source>
+        <translation>A dialog. The same is left to the system; Esc does not close it, but restores it when it is maximised.</translation>
+    </message>
+    <message>
+        <source>各系统完全一致。自己处理鼠标，边缘深 8 像素；它从不改变自己的状态，只向程序提出请求。</source>
+        <translation>The same on every system. It answers the mouse itself, the edges are 8 pixels deep; it never changes its own state but asks the program to.</translation>
+    </message>
+    <message>
+        <source>选择哪一种</source>
+        <translation>Which one to choose</translation>
+    </message>
+    <message>
+        <source>刀路仿真：窗口已最大化。</source>
+        <translation>Toolpath simulation: maximised.</translation>
+    </message>
+    <message>
+        <source>刀路仿真：窗口已还原。</source>
+        <translation>Toolpath simulation: restored.</translation>
+    </message>
+    <message>
+        <source>刀路仿真：按住了标题栏。</source>
+        <translation>Toolpath simulation: the title bar was pressed.</translation>
+    </message>
+    <message>
+        <source>刀路仿真已打开。</source>
+        <translation>The toolpath simulation is open.</translation>
+    </message>
+    <message>
+        <source>已保存刀具：%1</source>
+        <translation>Saved the cutter: %1</translation>
+    </message>
+    <message>
+        <source>刀具没有改变。</source>
+        <translation>The cutter has not changed.</translation>
+    </message>
+    <message>
+        <source>正在编辑刀具。</source>
+        <translation>A cutter is being edited.</translation>
+    </message>
+    <message>
+        <source>机床坐标：请求还原。</source>
+        <translation>Machine position: asks to be restored.</translation>
+    </message>
+    <message>
+        <source>机床坐标：双击了标题栏。</source>
+        <translation>Machine position: a double click on the title bar.</translation>
+    </message>
+    <message>
+        <source>机床坐标已打开。</source>
+        <translation>The machine position is open.</translation>
+    </message>
+</context>
+<context>
     <name>GalleryTitleBar</name>
     <message>
         <source>最小化</source>
@@ -932,6 +1027,14 @@
         <source>长时间任务的进度：由程序给出，或自行缓慢前进。</source>
         <translation>The progress of a long job, given by the program or creeping on its own.</translation>
     </message>
+    <message>
+        <source>无边框窗口</source>
+        <translation>Frameless windows</translation>
+    </message>
+    <message>
+        <source>没有系统边框的主窗口和对话框，标题栏由程序自己画。</source>
+        <translation>Main windows and dialogs without a system frame; the program draws their title bars.</translation>
+    </message>
 </context>
 <context>
     <name>ParametersPage</name>
@@ -1109,6 +1212,13 @@
     </message>
 </context>
 <context>
+    <name>PositionPanel</name>
+    <message>
+        <source>机床坐标</source>
+        <translation>Machine position</translation>
+    </message>
+</context>
+<context>
     <name>ProgressPage</name>
     <message>
         <source>点击一个例子开始。</source>
@@ -1224,6 +1334,17 @@
     </message>
 </context>
 <context>
+    <name>SimulationWindow</name>
+    <message>
+        <source>刀路仿真</source>
+        <translation>Toolpath simulation</translation>
+    </message>
+    <message>
+        <source>已加工 %1%</source>
+        <translation>%1% done</translation>
+    </message>
+</context>
+<context>
     <name>StatusLine</name>
     <message>
         <source>已连接机床 %1，地址 %2</source>
@@ -1232,6 +1353,37 @@
     <message>
         <source>未连接机床</source>
         <translation>No machine connected</translation>
+    </message>
+</context>
+<context>
+    <name>ToolDialog</name>
+    <message>
+        <source>球头刀 R3</source>
+        <translation>Ball end mill R3</translation>
+    </message>
+    <message>
+        <source>编辑刀具</source>
+        <translation>Edit a cutter</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>直径 (mm)</source>
+        <translation>Diameter (mm)</translation>
+    </message>
+    <message>
+        <source>刃长 (mm)</source>
+        <translation>Flute length (mm)</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Save</translation>
     </message>
 </context>
 <context>

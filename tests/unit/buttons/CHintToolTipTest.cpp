@@ -1,5 +1,6 @@
 #include <CustomControls/buttons/CHintToolTip.h>
 
+#include <tests/support/IsClickThrough.h>
 #include <tests/support/TestMain.h>
 
 #include <QMouseEvent>
@@ -31,11 +32,6 @@ public:
         m_bTakesMouse = false;
     }
 };
-
-bool IsClickThrough(const QWidget& window)
-{
-    return window.windowHandle()->flags().testFlag(Qt::WindowTransparentForInput);
-}
 
 void PressAt(QWidget& receiver, const QPointF& global)
 {

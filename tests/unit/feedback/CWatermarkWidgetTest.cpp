@@ -352,13 +352,13 @@ void CWatermarkWidgetTest::degenerateSizesAreHarmless()
     CWatermarkWidget watermark;
     watermark.resize(size);
     watermark.ShowWatermark();
-    QCOMPARE(watermark.m_pLabel->size(), size);
+    QCOMPARE(watermark.m_pLabel->size(), watermark.size()); // a system may have a least size for windows
     watermark.resize(300, 200);
     watermark.AdjustWatermark(true);
     QCOMPARE(watermark.m_pixmapCache.size(), QSize(600, 400));
     watermark.resize(size);
     watermark.AdjustWatermark(true);
-    QCOMPARE(watermark.m_pLabel->size(), size);
+    QCOMPARE(watermark.m_pLabel->size(), watermark.size()); // a system may have a least size for windows
 }
 
 void CWatermarkWidgetTest::markDiesWithItsWidget()

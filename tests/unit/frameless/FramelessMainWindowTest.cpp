@@ -20,6 +20,9 @@ private Q_SLOTS:
     void showingSetsMappedFirst();
     void aForeignMessageIsLeftAlone();
     void titleDblClickIsNeverEmitted();
+    void aPressTellsTheHostWhereTheBarIsFree();
+    void aSlotMayDeleteTheWindow();
+    void aNewHandleKeepsTheBarWorking();
 };
 
 void FramelessMainWindowTest::aNewWindowHasNoSystemFrame()
@@ -170,6 +173,72 @@ void FramelessMainWindowTest::titleDblClickIsNeverEmitted()
     QSignalSpy spy(&window, &FramelessMainWindow::titleDblClick);
     QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, {}, QPoint(100, 15));
     QCOMPARE(spy.count(), 0);
+}
+
+// What follows goes through the input of the toolkit, which Windows never asks for the frame.
+#ifdef Q_OS_WIN
+#define SKIP_ON_WINDOWS QSKIP("Windows asks for the frame by messages: NativeFrameTest")
+#else
+#define SKIP_ON_WINDOWS
+#endif
+
+void FramelessMainWindowTest::aPressTellsTheHostWhereTheBarIsFree()
+{
+    SKIP_ON_WINDOWS;
+    FramelessMainWindow window;
+    QWidget bar(&window);
+    bar.setGeometry(0, 0, 300, 30);
+    QWidget button(&bar);
+    button.setGeometry(200, 5, 40, 20);
+    window.setTitleBar(&bar);
+    window.resize(300, 200);
+    window.show();
+    QSignalSpy pressed(&window, &FramelessMainWindow::SignalTitleBarMousePressed);
+    const auto click = [&window](const QPoint& point, Qt::MouseButton mouseButton = Qt::LeftButton) {
+        QTest::mousePress(window.windowHandle(), mouseButton, {}, point);
+        QTest::mouseRelease(window.windowHandle(), mouseButton, {}, point);
+    };
+    click(QPoint(210, 15));
+    click(QPoint(100, 100));
+    click(QPoint(100, 15), Qt::RightButton);
+    QCOMPARE(pressed.count(), 0);
+    click(QPoint(100, 15));
+    QCOMPARE(pressed.count(), 1);
+    button.hide();
+    click(QPoint(210, 15));
+    QCOMPARE(pressed.count(), 2);
+}
+
+void FramelessMainWindowTest::aSlotMayDeleteTheWindow()
+{
+    SKIP_ON_WINDOWS;
+    auto* window = new FramelessMainWindow;
+    auto* bar = new QWidget(window);
+    bar->setGeometry(0, 0, 300, 30);
+    window->setTitleBar(bar);
+    window->resize(300, 200);
+    window->show();
+    const QPointer<FramelessMainWindow> watched(window);
+    connect(window, &FramelessMainWindow::SignalTitleBarMousePressed, this, [window] { delete window; });
+    QMouseEvent press(QEvent::MouseButtonPress, QPointF(100, 15), QPointF(100, 15), Qt::LeftButton, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(window->windowHandle(), &press);
+    QVERIFY(!watched);
+}
+
+void FramelessMainWindowTest::aNewHandleKeepsTheBarWorking()
+{
+    SKIP_ON_WINDOWS;
+    FramelessMainWindow window;
+    QWidget bar(&window);
+    bar.setGeometry(0, 0, 300, 30);
+    window.setTitleBar(&bar);
+    window.resize(300, 200);
+    window.setWindowFlag(Qt::WindowStaysOnTopHint);
+    window.show();
+    QSignalSpy pressed(&window, &FramelessMainWindow::SignalTitleBarMousePressed);
+    QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, QPoint(100, 15));
+    QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, QPoint(100, 15));
+    QCOMPARE(pressed.count(), 1);
 }
 
 CUSTOMCONTROLS_TEST_MAIN(FramelessMainWindowTest)

@@ -45,6 +45,8 @@ private Q_SLOTS:
     void clearingTakesAllBarsBack();
     void deletedBarsAreForgotten();
     void theWindowMayDieBeforeItsBars();
+    void aBarThatWasTakenBackMayDieWithTheWindow();
+    void aSlotMayDeleteTheWindowInADrag();
 };
 
 void PureQtFramelessWindowTest::aNewWindowHasItsFlagsAndAttributes()
@@ -411,6 +413,42 @@ void PureQtFramelessWindowTest::theWindowMayDieBeforeItsBars()
     }
     QVERIFY(!QGuiApplication::overrideCursor());
     SendMouse(&outside, QEvent::MouseButtonDblClick, QPoint(2, 2), QPoint(2, 2));
+}
+
+void PureQtFramelessWindowTest::aBarThatWasTakenBackMayDieWithTheWindow()
+{
+    auto* window = new PureQtFramelessWindow;
+    auto* first = new QWidget(window);
+    auto* second = new QWidget(window);
+    auto* third = new QWidget(window);
+    window->setTitleBar(first);
+    window->setTitleBar(second);
+    window->addTitleBar(second);
+    window->addTitleBar(third);
+    window->removeTitleBar(third);
+    window->clearTitleBars();
+    // As children they die when the window's own part is gone already: none may still be tied to it.
+    for (QWidget* bar : {first, second, third}) {
+        QVERIFY(!disconnect(bar, &QObject::destroyed, window, nullptr));
+    }
+    delete window;
+}
+
+void PureQtFramelessWindowTest::aSlotMayDeleteTheWindowInADrag()
+{
+    const QPointer<PureQtFramelessWindow> window(new PureQtFramelessWindow);
+    window->resize(400, 300);
+    auto* bar = new QWidget(window);
+    bar->setGeometry(0, 0, 400, 40);
+    window->addTitleBar(bar);
+    window->showMaximized();
+    QTRY_VERIFY(window->isMaximized());
+    connect(window, &PureQtFramelessWindow::windowStateChange, this, [window] { delete window; });
+    window->m_bDragging = true;
+    window->m_eDragState = PureQtFramelessWindow::TitleBar;
+    QMouseEvent move(QEvent::MouseMove, QPointF(100, 20), QPointF(100, 20), Qt::NoButton, Qt::LeftButton, {});
+    window->mouseMoveEvent(&move);
+    QVERIFY(!window);
 }
 
 CUSTOMCONTROLS_TEST_MAIN(PureQtFramelessWindowTest)

@@ -1,0 +1,109 @@
+#include "ToolDialog.h"
+
+#include "../GalleryStyle.h"
+#include "../GalleryTitleBar.h"
+
+#include <CorvaneBase/CorvaneFonts.h>
+
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+constexpr int PictureSize = 96;
+constexpr auto DialogSheet = "#toolDialog{background:#ffffff;border:1px solid #2b2f33;}";
+constexpr auto FieldSheet = "QLineEdit{border:1px solid #c4c4c4;border-radius:4px;padding:0 10px;color:#333333;"
+                            "background:#ffffff;}QLineEdit:focus{border-color:#188553;}";
+constexpr auto PictureSheet = "QLabel{background:#f6f6f6;border-radius:8px;}";
+
+QLabel* CreateCaption(const QString& text)
+{
+    auto* label = new QLabel(text);
+    label->setFont(FontCn_14);
+    label->setStyleSheet(QStringLiteral("color:%1;").arg(QLatin1String(GalleryStyle::Grey)));
+    return label;
+}
+} // namespace
+
+ToolDialog::ToolDialog(QWidget* parent)
+    : FramelessDialog(parent)
+    , m_pName(CreateField(QStringLiteral("toolName"), tr("球头刀 R3")))
+{
+    setObjectName(QStringLiteral("toolDialog"));
+    setStyleSheet(QLatin1String(DialogSheet));
+    setWindowTitle(tr("编辑刀具"));
+    resize(540, 340);
+    setMinimumSize(480, 320);
+
+    auto* picture = new QLabel;
+    picture->setFixedSize(PictureSize + 24, PictureSize + 24);
+    picture->setAlignment(Qt::AlignCenter);
+    picture->setStyleSheet(QLatin1String(PictureSheet));
+    picture->setPixmap(
+        QIcon(QStringLiteral(":/icon/selectbox/tool/img_home_tool_qiudao.png")).pixmap(PictureSize, PictureSize));
+
+    auto* form = new QFormLayout;
+    form->setHorizontalSpacing(16);
+    form->setVerticalSpacing(12);
+    form->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    form->addRow(CreateCaption(tr("名称")), m_pName);
+    form->addRow(CreateCaption(tr("直径 (mm)")), CreateField(QStringLiteral("toolDiameter"), QStringLiteral("6.0")));
+    form->addRow(CreateCaption(tr("刃长 (mm)")), CreateField(QStringLiteral("toolLength"), QStringLiteral("22.0")));
+    auto* content = new QHBoxLayout;
+    content->setSpacing(24);
+    content->addWidget(picture, 0, Qt::AlignTop);
+    content->addLayout(form, 1);
+
+    auto* cancel = new QPushButton(tr("取消"));
+    cancel->setObjectName(QStringLiteral("toolCancel"));
+    cancel->setStyleSheet(GalleryStyle::CommandButton(false));
+    auto* save = new QPushButton(tr("保存"));
+    save->setObjectName(QStringLiteral("toolSave"));
+    save->setStyleSheet(GalleryStyle::CommandButton(true));
+    save->setDefault(true);
+    auto* commands = new QHBoxLayout;
+    commands->setSpacing(12);
+    commands->addStretch(1);
+    for (QPushButton* button : {cancel, save}) {
+        button->setFont(FontCnMedium_14);
+        button->setFixedSize(96, 34);
+        button->setCursor(Qt::PointingHandCursor);
+        commands->addWidget(button);
+    }
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(save, &QPushButton::clicked, this, &QDialog::accept);
+
+    auto* bar = new GalleryTitleBar(this, GalleryTitleBar::ButtonMaximize | GalleryTitleBar::ButtonClose);
+    setTitleBar(bar);
+    auto* body = new QVBoxLayout;
+    body->setContentsMargins(24, 24, 24, 20);
+    body->addLayout(content);
+    body->addStretch(1);
+    body->addLayout(commands);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(1, 0, 1, 1); // beside the border
+    layout->setSpacing(0);
+    layout->addWidget(bar);
+    layout->addLayout(body, 1);
+    m_pName->selectAll();
+    m_pName->setFocus();
+}
+
+QString ToolDialog::ToolName() const
+{
+    return m_pName->text();
+}
+
+QLineEdit* ToolDialog::CreateField(const QString& objectName, const QString& text)
+{
+    auto* field = new QLineEdit(text);
+    field->setObjectName(objectName);
+    field->setFont(FontCn_14);
+    field->setFixedHeight(34);
+    field->setStyleSheet(QLatin1String(FieldSheet));
+    return field;
+}
