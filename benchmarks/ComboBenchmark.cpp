@@ -4,11 +4,13 @@
 #include <CustomControls/menus/CVelmarMenu.h>
 
 #include <QAbstractItemView>
+#include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QEvent>
 #include <QPushButton>
-#include <QTest>
 
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -30,139 +32,243 @@ QString Text(int entry)
     return QStringLiteral("entry %1").arg(entry);
 }
 
-struct Stage
+// The window system lets a widget wait some milliseconds for its painting; a pop-up of its own is painted at once. Both
+// are made to paint here and now, so that the same work is compared.
+void PaintNow(QWidget* window)
 {
-    Stage() { window.resize(600, 500); }
+    QCoreApplication::processEvents();
+    QEvent update(QEvent::UpdateRequest);
+    QCoreApplication::sendEvent(window, &update);
+}
 
-    bool Show()
+// Whether anything of what opened was painted since it was asked last.
+class PaintWatch : public QObject
+{
+public:
+    void Watch(QWidget* watched) { watched->installEventFilter(this); }
+
+    bool TakePainted() { return std::exchange(m_bPainted, false); }
+
+    bool eventFilter(QObject*, QEvent* event) override
     {
-        window.show();
-        return QTest::qWaitForWindowExposed(&window);
+        m_bPainted = m_bPainted || event->type() == QEvent::Paint;
+        return false;
     }
 
-    QWidget window;
+private:
+    bool m_bPainted = false;
 };
 
-// One opening up to the moment when the list is painted, and its closing.
-Comparison::Run OpenOurs(int entries)
+class OurBox
+{
+public:
+    explicit OurBox(int entries)
+        : m_pBox(new CComboBox(&m_window))
+    {
+        m_window.resize(600, 500);
+        m_pBox->SetBoxSize(200, 28, 0);
+        for (int entry = 0; entry < entries; ++entry) {
+            m_pBox->AddComboItem(Text(entry));
+        }
+        m_pList = m_window.findChild<CVelmarMenu*>();
+        m_watch.Watch(m_pList->MenuButton(0));
+        m_window.show();
+        PaintNow(&m_window);
+    }
+
+    bool Open()
+    {
+        m_pBox->showPopup();
+        PaintNow(&m_window);
+        return m_watch.TakePainted();
+    }
+
+    void Close()
+    {
+        m_pBox->hidePopup();
+        PaintNow(&m_window);
+    }
+
+private:
+    QWidget m_window;
+    CComboBox* m_pBox;
+    CVelmarMenu* m_pList;
+    PaintWatch m_watch;
+};
+
+template <bool sameLook>
+class ToolkitBox
+{
+public:
+    explicit ToolkitBox(int entries)
+        : m_pBox(new QComboBox(&m_window))
+    {
+        m_window.resize(600, 500);
+        m_pBox->setFixedSize(200, 28);
+        if (sameLook) {
+            m_pBox->setStyleSheet(QLatin1String(kLook));
+        }
+        for (int entry = 0; entry < entries; ++entry) {
+            m_pBox->addItem(Text(entry));
+        }
+        m_watch.Watch(m_pBox->view()->viewport());
+        m_window.show();
+        PaintNow(&m_window);
+    }
+
+    bool Open()
+    {
+        m_pBox->showPopup();
+        PaintNow(m_pBox->view()->window());
+        return m_watch.TakePainted();
+    }
+
+    void Close()
+    {
+        m_pBox->hidePopup();
+        PaintNow(&m_window);
+    }
+
+private:
+    QWidget m_window;
+    QComboBox* m_pBox;
+    PaintWatch m_watch;
+};
+
+// An opening up to the moment when the list is painted, and its closing up to the moment when what it covered is.
+template <class Box>
+Comparison::Run OpenAgain(int entries)
 {
     return [entries](benchmark::State& state) {
-        Stage stage;
-        auto* box = new CComboBox(&stage.window);
-        box->SetBoxSize(200, 28, 0);
-        for (int entry = 0; entry < entries; ++entry) {
-            box->AddComboItem(Text(entry));
+        Box box(entries);
+        if (!box.Open()) {
+            state.SkipWithError("the list is not painted");
         }
-        auto* list = stage.window.findChild<CVelmarMenu*>();
-        if (!stage.Show()) {
-            state.SkipWithError("the window does not show");
-            return;
-        }
+        box.Close();
         for ([[maybe_unused]] auto step : state) {
-            box->showPopup();
-            QCoreApplication::processEvents();
-            if (!list->isVisible()) {
-                state.SkipWithError("the list does not open");
-                return;
-            }
-            list->hide();
-            QCoreApplication::processEvents();
+            box.Open();
+            box.Close();
         }
     };
 }
 
-Comparison::Run OpenToolkit(int entries, bool sameLook)
+// The first opening alone, in which the list's widgets get their looks.
+template <class Box>
+Comparison::Run OpenFirst(int entries)
 {
-    return [entries, sameLook](benchmark::State& state) {
-        Stage stage;
-        auto* box = new QComboBox(&stage.window);
-        box->setFixedSize(200, 28);
-        if (sameLook) {
-            box->setStyleSheet(QLatin1String(kLook));
-        }
-        for (int entry = 0; entry < entries; ++entry) {
-            box->addItem(Text(entry));
-        }
-        if (!stage.Show()) {
-            state.SkipWithError("the window does not show");
-            return;
-        }
+    return [entries](benchmark::State& state) {
         for ([[maybe_unused]] auto step : state) {
-            box->showPopup();
-            QCoreApplication::processEvents();
-            if (!box->view()->isVisible()) {
-                state.SkipWithError("the pop-up does not open");
+            state.PauseTiming();
+            auto box = std::make_unique<Box>(entries);
+            state.ResumeTiming();
+            if (!box->Open()) {
+                state.SkipWithError("the list is not painted");
                 return;
             }
-            box->hidePopup();
-            QCoreApplication::processEvents();
+            state.PauseTiming();
+            box.reset();
+            state.ResumeTiming();
         }
     };
 }
+
+enum Filling
+{
+    FillingClosed,
+    FillingOpen,
+    // Open, and the event loop turns after each row, as with rows that come from elsewhere.
+    FillingOpenOneByOne,
+};
 
 template <typename Add>
-double SecondsToFill(QWidget& window, int entries, bool open, Add add)
+double SecondsToFill(QWidget& window, int entries, Filling filling, Add add)
 {
-    if (open) {
+    if (filling != FillingClosed) {
         window.show();
+        QCoreApplication::processEvents();
     }
     QElapsedTimer timer;
     timer.start();
     for (int entry = 0; entry < entries; ++entry) {
         add(Text(entry));
+        if (filling == FillingOpenOneByOne) {
+            QCoreApplication::processEvents();
+        }
     }
     // What the additions left for the event loop counts too.
     QCoreApplication::processEvents();
     return double(timer.nsecsElapsed()) / 1e9;
 }
 
-double FillPlain(int rows, bool open)
+Comparison Growth(const char* name, double (*fill)(int rows, Filling filling), Filling filling)
 {
-    CVelmarMenu menu(nullptr);
-    return SecondsToFill(menu, rows, open, [&menu](const QString& text) { menu.AddDefaultButton(text); });
+    return Comparison(name).Growth([fill, filling](int rows) { return fill(rows, filling); }, kFew, kMany).Goal(1.5);
 }
 
-double FillScrolling(int rows, bool open)
+double FillPlain(int rows, Filling filling)
 {
     CVelmarMenu menu(nullptr);
-    return SecondsToFill(menu, rows, open, [&menu](const QString& text) { menu.AddListWidgetButton(text); });
+    return SecondsToFill(menu, rows, filling, [&menu](const QString& text) { menu.AddDefaultButton(text); });
 }
 
-double FillItems(int rows)
+double FillScrolling(int rows, Filling filling)
 {
     CVelmarMenu menu(nullptr);
-    return SecondsToFill(menu, rows, false, [&menu](const QString& text) { menu.AddMenuItem(text, {}, {}); });
+    return SecondsToFill(menu, rows, filling, [&menu](const QString& text) { menu.AddListWidgetButton(text); });
 }
 
-double FillBox(int entries)
+double FillItems(int rows, Filling filling)
+{
+    CVelmarMenu menu(nullptr);
+    return SecondsToFill(menu, rows, filling, [&menu](const QString& text) { menu.AddMenuItem(text, {}, {}); });
+}
+
+double FillBox(int entries, Filling filling)
 {
     QWidget window;
+    window.resize(600, 500);
     CComboBox box(&window);
-    return SecondsToFill(window, entries, false, [&box](const QString& text) { box.AddComboItem(text); });
+    box.SetBoxSize(200, 28, 0);
+    box.AddComboItem(QStringLiteral("first"));
+    if (filling != FillingClosed) {
+        window.show();
+        box.showPopup();
+    }
+    return SecondsToFill(window, entries, filling, [&box](const QString& text) { box.AddComboItem(text); });
 }
 
-const Comparison openPlain = Comparison("combo: open and close, 5 entries")
-                                 .Ours(OpenOurs(kPlainEntries))
-                                 .SameLook(OpenToolkit(kPlainEntries, true))
-                                 .Plain(OpenToolkit(kPlainEntries, false))
-                                 .Goal(1.0);
+Comparison OpeningAgain(const char* name, int entries)
+{
+    return Comparison(name)
+        .Ours(OpenAgain<OurBox>(entries))
+        .SameLook(OpenAgain<ToolkitBox<true>>(entries))
+        .Plain(OpenAgain<ToolkitBox<false>>(entries))
+        .Goal(1.0);
+}
 
-const Comparison openScrolling = Comparison("combo: open and close, 20 entries")
-                                     .Ours(OpenOurs(kScrollingEntries))
-                                     .SameLook(OpenToolkit(kScrollingEntries, true))
-                                     .Plain(OpenToolkit(kScrollingEntries, false))
-                                     .Goal(1.0);
+Comparison OpeningFirst(const char* name, int entries)
+{
+    return Comparison(name)
+        .Ours(OpenFirst<OurBox>(entries))
+        .SameLook(OpenFirst<ToolkitBox<true>>(entries))
+        .Plain(OpenFirst<ToolkitBox<false>>(entries))
+        .Goal(1.0);
+}
 
-const Comparison growPlain = Comparison("machine menu: row, closed")
-                                 .Growth([](int rows) { return FillPlain(rows, false); }, kFew, kMany)
-                                 .Goal(1.5);
-const Comparison growScrolling = Comparison("machine menu: list row, closed")
-                                     .Growth([](int rows) { return FillScrolling(rows, false); }, kFew, kMany)
-                                     .Goal(1.5);
-const Comparison growScrollingOpen = Comparison("machine menu: list row, open")
-                                         .Growth([](int rows) { return FillScrolling(rows, true); }, kFew, kMany)
-                                         .Goal(1.5);
-const Comparison growItems = Comparison("machine menu: icon row, closed").Growth(FillItems, kFew, kMany).Goal(1.5);
-const Comparison growBox = Comparison("combo: entry").Growth(FillBox, kFew, kMany).Goal(1.5);
+const Comparison openFirst = OpeningFirst("combo: first opening, 20 entries", kScrollingEntries);
+const Comparison openPlain = OpeningAgain("combo: open and close, 5 entries", kPlainEntries);
+const Comparison openScrolling = OpeningAgain("combo: open and close, 20 entries", kScrollingEntries);
+const Comparison openMany = OpeningAgain("combo: open and close, 10,000 entries", kMany);
+
+const Comparison growPlain = Growth("machine menu: row, closed", FillPlain, FillingClosed);
+const Comparison growPlainOpen = Growth("machine menu: row, open", FillPlain, FillingOpen);
+const Comparison growList = Growth("machine menu: list row, closed", FillScrolling, FillingClosed);
+const Comparison growListOpen = Growth("machine menu: list row, open", FillScrolling, FillingOpen);
+const Comparison growListOneByOne =
+    Growth("machine menu: list row, open, one by one", FillScrolling, FillingOpenOneByOne);
+const Comparison growItems = Growth("machine menu: icon row, closed", FillItems, FillingClosed);
+const Comparison growBox = Growth("combo: entry, closed", FillBox, FillingClosed);
+const Comparison growBoxOpen = Growth("combo: entry, list open", FillBox, FillingOpen);
+const Comparison growBoxOneByOne = Growth("combo: entry, list open, one by one", FillBox, FillingOpenOneByOne);
 
 } // namespace

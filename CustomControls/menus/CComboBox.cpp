@@ -277,6 +277,18 @@ void CComboBox::showPopup()
     }
 }
 
+void CComboBox::hidePopup()
+{
+    if (!m_pMenu || !m_pMenu->isVisible()) {
+        return;
+    }
+    const QPointer<CComboBox> self(this);
+    m_pMenu->hide();
+    if (self) {
+        Wear(this, kRestSheet);
+    }
+}
+
 void CComboBox::mousePressEvent(QMouseEvent* event)
 {
     // The base class would open its own pop-up.

@@ -17,11 +17,13 @@ class CComboBox;
 /**
  * The dark combo box of the product's panels. Its list is a CVelmarMenu under the box, never the pop-up of QComboBox.
  *
- * The list lies in the window that holds the box, or in the panel named "CModuleNewProject" within it, so that nothing
- * between clips it. Up to a maximum number of entries it is plain, beyond it scrolls. Entries go through the operations
- * of this class, for the list and the box have to hold the same; everything else (current index, signals) is that of a
- * QComboBox. The list belongs to its window and outlives the box; box, list and window may go in any order. Only from
- * the box's own signals it is ended by deleteLater(), as every QComboBox.
+ * The list lies in the outermost of the widgets that hold the box, or in the panel named "CModuleNewProject" among
+ * them, so that nothing between clips it. In a dialog that has a parent of its own the outermost is the window behind
+ * it: there the host gives the list to the dialog by SetMenuParent(). Up to a maximum number of entries it is plain,
+ * beyond it scrolls. Entries go through the operations of this class, for the list and the box have to hold the same;
+ * everything else (current index, signals) is that of a QComboBox. The list belongs to its window and outlives the box;
+ * box, list and window may go in any order. Only from the box's own signals it is ended by deleteLater(), as every
+ * QComboBox.
  *
  * @code
  * auto* box = new CComboBox(panel);
@@ -73,6 +75,8 @@ public:
     bool eventFilter(QObject* obj, QEvent* event) override;
     /** Opens the list, for the keys that open a combo box. */
     void showPopup() override;
+    /** Closes the list, which is also done when the box itself is hidden. */
+    void hidePopup() override;
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;

@@ -27,6 +27,8 @@ constexpr int kListRowStretch = 0;
 constexpr int kGap = 4;
 constexpr int kRowsInScrollArea = 5;
 constexpr int kRowHeightSurplus = 2;
+// Rows that stand where they belong already can wait this long, in milliseconds, for what the layout has to say.
+constexpr int kLayoutPause = 40;
 // The panel's margins: left and right together, top and bottom together.
 constexpr int kSideMargins = 2;
 constexpr int kEndMargins = 8;
@@ -111,6 +113,38 @@ bool IsEnabledItself(const QWidget* entry)
     return entry->isEnabledTo(entry->parentWidget());
 }
 
+// Whether a row was hidden by name: one that was never on the screen is to come with its menu.
+bool IsHiddenItself(const QWidget* entry)
+{
+    return entry->isHidden() && entry->testAttribute(Qt::WA_WState_ExplicitShowHide);
+}
+
+/** A button that does not ask to be painted when it comes with its menu, unless a part of it is in view. */
+class MenuPushButton : public QPushButton
+{
+public:
+    using QPushButton::QPushButton;
+
+    bool event(QEvent* event) override
+    {
+        // Each widget that is shown asks for it, and each request is compared with all siblings.
+        if (event->type() == QEvent::UpdateLater && visibleRegion().isEmpty()) {
+            return true;
+        }
+        return QPushButton::event(event);
+    }
+};
+
+/** The rows of the scroll area. Its size is fixed, so that no row has to be asked for it. */
+class ListContent : public QWidget
+{
+public:
+    using QWidget::QWidget;
+
+    QSize sizeHint() const override { return minimumSize(); }
+    QSize minimumSizeHint() const override { return minimumSize(); }
+};
+
 // The rows at the given indexes, each once and in their own order; a negative index counts from the end.
 template <typename Row>
 QList<QPointer<QWidget>> NamedRows(const QList<Row*>& rows, const QList<int>& indexes)
@@ -138,6 +172,8 @@ CVelmarMenu::CVelmarMenu(QWidget* parent)
     ui->setupUi(this);
     ui->m_layoutWidgetMenu->setSpacing(kGap);
     setFocusPolicy(Qt::ClickFocus);
+    m_timerLayout.setSingleShot(true);
+    connect(&m_timerLayout, &QTimer::timeout, this, &CVelmarMenu::LayOut);
 }
 
 CVelmarMenu::~CVelmarMenu()
@@ -180,6 +216,7 @@ void CVelmarMenu::SetMenuStyle(MenuStyle style)
 void CVelmarMenu::AddMenuButton(CVelmarButton* button)
 {
     if (button && !m_listButtons.contains(button)) {
+        LayOutLater();
         AddButton(button, ui->m_layoutWidgetMenu, kRowStretch);
         UpdateMenuSize();
     }
@@ -187,6 +224,7 @@ void CVelmarMenu::AddMenuButton(CVelmarButton* button)
 
 void CVelmarMenu::AddDefaultButton(const QString& text)
 {
+    LayOutLater();
     // Made where the layout would put it anyway, which costs less than to move it there.
     AddButton(MakeButton(text, ui->m_widgetMenu, SheetOf(kButtonSheets, m_eMenuStyle)), ui->m_layoutWidgetMenu,
               kRowStretch);
@@ -198,8 +236,15 @@ void CVelmarMenu::AddListWidgetButton(const QString& text)
     if (!m_pScrollArea) {
         BuildScrollArea();
     }
-    AddButton(MakeButton(text, m_pScrollWidget, SheetOf(kListButtonSheets, m_eMenuStyle)), m_pScrollLayout,
-              kListRowStretch);
+    QPushButton* button = MakeButton(text, m_pScrollWidget, SheetOf(kListButtonSheets, m_eMenuStyle));
+    if (IsListFull()) {
+        // The next row's place is known. Were the layout asked for it, it would ask all the rows before.
+        button->move(0, m_pScrollWidget->height());
+        LayOutAfterPause();
+    } else {
+        LayOutLater();
+    }
+    AddButton(button, m_pScrollLayout, kListRowStretch);
     FitScrollWidget();
     m_pScrollArea->setWidget(m_pScrollWidget);
     UpdateMenuSize();
@@ -405,6 +450,9 @@ void CVelmarMenu::show()
     }
     if (self) {
         m_pCurrentShowMenu = this;
+        if (m_timerLayout.isActive()) {
+            LayOut();
+        }
         QWidget::show();
     }
 }
@@ -439,7 +487,7 @@ void CVelmarMenu::setFixedSize(int width, int height)
 
 QPushButton* CVelmarMenu::MakeButton(const QString& text, QWidget* parent, const QString* sheet)
 {
-    auto* button = new QPushButton(text, parent);
+    auto* button = new MenuPushButton(text, parent);
     // In a dialog it would otherwise become what Return clicks.
     button->setAutoDefault(false);
     button->setFixedSize(WidgetSize(m_iWidth), WidgetSize(m_iItemHeight));
@@ -453,7 +501,6 @@ QPushButton* CVelmarMenu::MakeButton(const QString& text, QWidget* parent, const
 void CVelmarMenu::AddButton(QPushButton* button, QVBoxLayout* layout, int stretch)
 {
     connect(button, &QObject::destroyed, this, [this, button] { ButtonGone(button); });
-    LayOutLater();
     layout->addWidget(button, stretch);
     ShowIfOpen(button);
     m_listButtons.append(button);
@@ -468,7 +515,8 @@ void CVelmarMenu::BuildScrollArea()
     m_pScrollArea->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     m_pScrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_pScrollArea->verticalScrollBar()->setStyleSheet(kScrollBarSheet);
-    m_pScrollWidget = new QWidget(m_pScrollArea->viewport());
+    m_pScrollWidget = new ListContent(m_pScrollArea->viewport());
+    m_pScrollWidget->setAttribute(Qt::WA_StaticContents); // a row more below leaves those above as they are painted
     m_pScrollLayout = new QVBoxLayout(m_pScrollWidget);
     m_pScrollLayout->setContentsMargins(0, 0, 0, 0);
     m_pScrollLayout->setSpacing(0);
@@ -480,15 +528,24 @@ void CVelmarMenu::BuildScrollArea()
 
 void CVelmarMenu::FitScrollWidget()
 {
-    // The scroll area asks all rows for their sizes at each change of its content, so an open one waits for the last.
-    m_bFitWaiting = m_iWaitingLayouts > 0;
-    if (m_pScrollWidget && !m_bFitWaiting) {
+    if (m_pScrollWidget) {
         m_pScrollWidget->setFixedSize(WidgetSize(m_iWidth), WidgetSize(qint64(m_iRowCount) * m_iItemHeight));
     }
 }
 
+// Whether the menu is on the screen and its list ends with the last row of all, as it does unless rows are hidden or
+// stand elsewhere, or the layout has not placed them yet.
+bool CVelmarMenu::IsListFull() const
+{
+    const QPushButton* last = m_listButtons.isEmpty() ? nullptr : m_listButtons.last();
+    return isVisible() && last && last->parentWidget() == m_pScrollWidget && last->isVisible() &&
+           last->geometry().bottom() + 1 == m_pScrollWidget->height() &&
+           qint64(m_iRowCount) * m_iItemHeight == m_pScrollWidget->height();
+}
+
 void CVelmarMenu::FitRows()
 {
+    LayOutLater();
     for (QPushButton* button : std::as_const(m_listButtons)) {
         button->setFixedSize(WidgetSize(m_iWidth), WidgetSize(m_iItemHeight));
     }
@@ -530,27 +587,32 @@ void CVelmarMenu::LayOutLater()
         return;
     }
     // On the screen each new row would lay out all the others anew. One layout after the last of them leads to the
-    // same.
+    // same; it is queued before the rows ask to be painted.
     SetLayoutsEnabled(false);
-    ++m_iWaitingLayouts;
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            if (--m_iWaitingLayouts > 0) {
-                return;
-            }
-            SetLayoutsEnabled(true);
-            if (m_bFitWaiting) {
-                FitScrollWidget();
-            }
-            if (m_pScrollLayout) {
-                m_pScrollLayout->invalidate();
-                m_pScrollLayout->activate();
-            }
-            ui->m_layoutWidgetMenu->invalidate();
-            ui->m_layoutWidgetMenu->activate();
-        },
-        Qt::QueuedConnection);
+    if (!std::exchange(m_bLayoutQueued, true)) {
+        QMetaObject::invokeMethod(this, &CVelmarMenu::LayOut, Qt::QueuedConnection);
+    }
+}
+
+void CVelmarMenu::LayOutAfterPause()
+{
+    SetLayoutsEnabled(false);
+    if (!m_bLayoutQueued && !m_timerLayout.isActive()) {
+        m_timerLayout.start(kLayoutPause);
+    }
+}
+
+void CVelmarMenu::LayOut()
+{
+    m_bLayoutQueued = false;
+    m_timerLayout.stop();
+    SetLayoutsEnabled(true);
+    if (m_pScrollLayout) {
+        m_pScrollLayout->invalidate();
+        m_pScrollLayout->activate();
+    }
+    ui->m_layoutWidgetMenu->invalidate();
+    ui->m_layoutWidgetMenu->activate();
 }
 
 // A layout that waits does not see what leaves it: enable it first, or take the entry out by hand.
@@ -573,8 +635,7 @@ void CVelmarMenu::TakeFromLayouts(QWidget* entry)
 void CVelmarMenu::ShowIfOpen(QWidget* entry)
 {
     // The toolkit would do it in the next turn of the event loop; until then the entry would count as hidden.
-    const bool hiddenByHost = entry->isHidden() && entry->testAttribute(Qt::WA_WState_ExplicitShowHide);
-    if (isVisible() && !hiddenByHost) {
+    if (isVisible() && !IsHiddenItself(entry)) {
         entry->show();
     }
 }
@@ -608,6 +669,7 @@ void CVelmarMenu::SplitLineGone(QWidget* line)
 
 void CVelmarMenu::SetPresent(const QList<QPointer<QWidget>>& rows, bool present)
 {
+    SetLayoutsEnabled(true);
     // A focus that has to move on is heard by the host, who may delete rows or the menu.
     const QPointer<CVelmarMenu> self(this);
     for (const QPointer<QWidget>& row : rows) {
@@ -618,7 +680,7 @@ void CVelmarMenu::SetPresent(const QList<QPointer<QWidget>>& rows, bool present)
             continue;
         }
         const bool enabled = IsEnabledItself(row);
-        const bool shown = !row->isHidden();
+        const bool shown = !IsHiddenItself(row);
         if (present ? enabled && shown : !enabled && !shown) {
             continue;
         }

@@ -5,8 +5,10 @@
 
 #include <QFont>
 #include <QList>
+#include <QPointer>
 #include <QSize>
 #include <QString>
+#include <QTimer>
 #include <QWidget>
 
 class CVelmarButton;
@@ -128,6 +130,9 @@ private:
     void UpdateMenuSize();
     void UpdateMenuSizeLater();
     void LayOutLater();
+    void LayOutAfterPause();
+    void LayOut();
+    bool IsListFull() const;
     void SetLayoutsEnabled(bool enabled);
     void TakeFromLayouts(QWidget* entry);
     void ShowIfOpen(QWidget* entry);
@@ -152,6 +157,6 @@ private:
     QList<QWidget*> m_listSplitLines;
     Ui::CVelmarMenu* ui;
 
-    int m_iWaitingLayouts = 0;
-    bool m_bFitWaiting = false;
+    bool m_bLayoutQueued = false;
+    QTimer m_timerLayout;
 };

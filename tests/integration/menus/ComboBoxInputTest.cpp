@@ -45,6 +45,8 @@ private Q_SLOTS:
     void cleanup();
     void clickOnARowChoosesIt();
     void draggingTheScrollBarKeepsTheListOpen();
+    void rowUnderTheMouseIsMarked();
+    void entryAddedToTheOpenListCanBeChosen();
     void boxesOpenOneAfterTheOther();
     void clickElsewhereClosesTheList();
     void keysOpenTheListAndNoPopUp();
@@ -131,6 +133,36 @@ void ComboBoxInputTest::draggingTheScrollBarKeepsTheListOpen()
     QTRY_COMPARE(bar->value(), bar->maximum());
     RealInput::Click(CentreOf(m_pLongList->MenuButton(kRowsOfList - 1)));
     QTRY_COMPARE(m_pLong->currentIndex(), kRowsOfList - 1);
+    QTRY_VERIFY(!m_pLongList->isVisible());
+}
+
+void ComboBoxInputTest::rowUnderTheMouseIsMarked()
+{
+    RealInput::Click(CentreOf(m_pLong));
+    QTRY_VERIFY(m_pLongList->isVisible());
+    const auto color = [this](int row) {
+        return m_pWindow->grab(QRect(m_pLongList->MenuButton(row)->mapTo(m_pWindow, QPoint(150, 15)), QSize(1, 1)))
+            .toImage()
+            .pixelColor(0, 0);
+    };
+    RealInput::MoveTo(CentreOf(m_pLongList->MenuButton(1)));
+    QTRY_COMPARE(color(1), QColor("#0071bc"));
+    QCOMPARE(color(2), QColor("#212024"));
+    RealInput::MoveTo(CentreOf(m_pLongList->MenuButton(2)));
+    QTRY_COMPARE(color(2), QColor("#0071bc"));
+    QCOMPARE(color(1), QColor("#212024"));
+}
+
+void ComboBoxInputTest::entryAddedToTheOpenListCanBeChosen()
+{
+    RealInput::Click(CentreOf(m_pLong));
+    QTRY_VERIFY(m_pLongList->isVisible());
+    m_pLong->AddComboItem(QStringLiteral("late"));
+    QScrollBar* bar = m_pLongList->findChild<QScrollArea*>()->verticalScrollBar();
+    QTRY_COMPARE(bar->maximum(), (kRowsOfList + 1 - 5) * 30);
+    bar->setValue(bar->maximum());
+    RealInput::Click(CentreOf(m_pLongList->MenuButton(kRowsOfList)));
+    QTRY_COMPARE(m_pLong->currentText(), QStringLiteral("late"));
     QTRY_VERIFY(!m_pLongList->isVisible());
 }
 

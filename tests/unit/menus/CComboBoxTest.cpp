@@ -146,6 +146,8 @@ private Q_SLOTS:
     void focusLossClosesTheList_data();
     void focusLossClosesTheList();
     void focusLossOverTheScrollBarKeepsTheListOpen();
+    void hidePopupClosesTheList();
+    void hiddenBoxClosesItsList();
     void hoverFollowsTheMouse();
     void disabledBoxDoesNotHover();
     void listOutlivesTheBox();
@@ -159,6 +161,8 @@ private Q_SLOTS:
     void oddTextsAreKept_data();
     void oddTextsAreKept();
     void openBoxIsDarkWithABlueBorder();
+    void entriesAddedToAnOpenListJoinIt();
+    void manyEntriesCostWhatFewDo_data();
     void manyEntriesCostWhatFewDo();
 };
 
@@ -686,6 +690,39 @@ void CComboBoxTest::focusLossOverTheScrollBarKeepsTheListOpen()
     QCursor::setPos(before);
 }
 
+void CComboBoxTest::hidePopupClosesTheList()
+{
+    Stage stage;
+    stage.Add(2);
+    stage.window->show();
+    stage.box->hidePopup();
+    QCOMPARE(stage.box->styleSheet(), kHover);
+    stage.box->showPopup();
+    QVERIFY(stage.Menu()->isVisible());
+    stage.box->hidePopup();
+    QVERIFY(!stage.Menu()->isVisible());
+    QCOMPARE(stage.box->styleSheet(), kRest);
+    QCOMPARE(CVelmarMenu::m_pCurrentShowMenu, nullptr);
+}
+
+void CComboBoxTest::hiddenBoxClosesItsList()
+{
+    // A host may change the page while the list is open.
+    for (const bool inactive : {false, true}) {
+        Stage stage;
+        stage.Add(9);
+        stage.window->show();
+        Click(stage.box);
+        QVERIFY(stage.Menu()->isVisible());
+        if (inactive) {
+            QApplication::setActiveWindow(nullptr);
+        }
+        stage.panel->hide();
+        QVERIFY(!stage.Menu()->isVisible());
+        QCOMPARE(CVelmarMenu::m_pCurrentShowMenu, nullptr);
+    }
+}
+
 void CComboBoxTest::hoverFollowsTheMouse()
 {
     Stage stage;
@@ -912,13 +949,51 @@ void CComboBoxTest::openBoxIsDarkWithABlueBorder()
     stage.Menu()->hide();
 }
 
+void CComboBoxTest::entriesAddedToAnOpenListJoinIt()
+{
+    Stage stage;
+    stage.Add(4);
+    stage.window->show();
+    Click(stage.box);
+    // Over the maximum: the open list turns into a scrolling one.
+    for (int entry = 4; entry < 9; ++entry) {
+        stage.Add(1);
+        QTRY_COMPARE(stage.Menu()->MenuButton(entry)->y(), entry < 5 ? 4 + entry * 34 : entry * 30);
+    }
+    QVERIFY(stage.Menu()->isVisible());
+    QCOMPARE(stage.Menu()->size(), QSize(202, 158));
+    stage.box->AddComboItem(QString(100, QChar('w')));
+    QTRY_COMPARE(stage.Menu()->MenuButton(0)->width(), stage.box->m_iMenuWidth);
+    QVERIFY(stage.box->m_iMenuWidth > 200);
+    QCOMPARE(stage.Menu()->MenuButton(9)->geometry(), QRect(0, 270, stage.box->m_iMenuWidth, 30));
+    stage.Menu()->hide();
+}
+
+void CComboBoxTest::manyEntriesCostWhatFewDo_data()
+{
+    QTest::addColumn<bool>("open");
+    QTest::newRow("closed") << false;
+    QTest::newRow("open, one in each turn of the event loop") << true;
+}
+
 void CComboBoxTest::manyEntriesCostWhatFewDo()
 {
-    const auto perEntry = [](int entries) {
+    QFETCH(bool, open);
+    const auto perEntry = [open](int entries) {
         Stage stage;
+        if (open) {
+            stage.Add(1);
+            stage.window->show();
+            Click(stage.box);
+        }
         QElapsedTimer timer;
         timer.start();
-        stage.Add(entries);
+        for (int entry = 0; entry < entries; ++entry) {
+            stage.Add(1);
+            if (open) {
+                QCoreApplication::processEvents();
+            }
+        }
         return double(timer.nsecsElapsed()) / entries;
     };
     double few = perEntry(100);

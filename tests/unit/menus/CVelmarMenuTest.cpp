@@ -15,6 +15,7 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QSet>
 #include <QSignalSpy>
 
 #include <climits>
@@ -100,6 +101,7 @@ private Q_SLOTS:
     void hideAndShowButtonsByIndex();
     void hideAndShowItemsByIndex();
     void hostHiddenRowCountsAsPresentWhileEnabled();
+    void rowsNeverShownYetArePresent();
     void indexesOutOfRangeAreSafe_data();
     void indexesOutOfRangeAreSafe();
     void removeMenuButtonDeletesIt();
@@ -121,6 +123,11 @@ private Q_SLOTS:
     void oddTextsAreKept_data();
     void oddTextsAreKept();
     void rowsAddedToAnOpenMenuAreLaidOutTogether();
+    void rowOfAnOpenListStandsAtItsPlaceAtOnce();
+    void rowOfAnOpenListWithGapsIsLeftToTheLayout();
+    void layoutTakesOverWhenAnOpenListRests();
+    void listClosedBeforeItsLayoutOpensInOrder();
+    void rowsOutOfViewAreNotPaintedUntilTheyAreScrolledTo();
     void buttonsDoNotTakeADialogsReturnKey();
     void manyRowsCostWhatFewDo_data();
     void manyRowsCostWhatFewDo();
@@ -528,6 +535,20 @@ void CVelmarMenuTest::hostHiddenRowCountsAsPresentWhileEnabled()
     QVERIFY(menu.MenuButton(1)->isEnabled());
 }
 
+void CVelmarMenuTest::rowsNeverShownYetArePresent()
+{
+    CVelmarMenu menu(nullptr);
+    Fill(menu, 2);
+    menu.AddMenuItem("item", {}, {});
+    menu.ShowMenuBtn({0, 1});
+    menu.ShowMenuItem({0});
+    QCOMPARE(menu.m_iRowCount, 3);
+    QCOMPARE(menu.height(), 3 * 28 + 4);
+    menu.MenuButton(0)->hide();
+    menu.ShowMenuBtn({0});
+    QCOMPARE(menu.m_iRowCount, 4);
+}
+
 void CVelmarMenuTest::indexesOutOfRangeAreSafe_data()
 {
     QTest::addColumn<int>("index");
@@ -856,6 +877,140 @@ void CVelmarMenuTest::rowsAddedToAnOpenMenuAreLaidOutTogether()
     menu.hide();
 }
 
+void CVelmarMenuTest::rowOfAnOpenListStandsAtItsPlaceAtOnce()
+{
+    QWidget window;
+    window.resize(400, 400);
+    CVelmarMenu menu(&window);
+    menu.AddListWidgetButton("0");
+    window.show();
+    menu.show();
+    for (int row = 1; row < 9; ++row) {
+        menu.AddListWidgetButton(QString::number(row));
+        QCOMPARE(menu.MenuButton(row)->geometry(), QRect(0, row * 24, 144, 24));
+        QVERIFY(menu.MenuButton(row)->isVisible());
+        QCOMPARE(menu.m_pScrollWidget->size(), QSize(144, (row + 1) * 24));
+        QCoreApplication::processEvents();
+        QCOMPARE(menu.m_pScrollArea->verticalScrollBar()->maximum(), qMax(0, (row - 4) * 24));
+    }
+    // Widened rows and those that come after them.
+    menu.SetWindowWidth(200);
+    menu.AddListWidgetButton("9");
+    QTRY_COMPARE(menu.MenuButton(0)->geometry(), QRect(0, 0, 200, 24));
+    QCOMPARE(menu.MenuButton(9)->geometry(), QRect(0, 9 * 24, 200, 24));
+    // One that went from the middle leaves no hole.
+    menu.RemoveMenuButton(2);
+    menu.AddListWidgetButton("10");
+    QTRY_COMPARE(menu.MenuButton(9)->geometry(), QRect(0, 9 * 24, 200, 24));
+    QCOMPARE(menu.MenuButton(2)->geometry(), QRect(0, 2 * 24, 200, 24));
+    menu.hide();
+}
+
+void CVelmarMenuTest::rowOfAnOpenListWithGapsIsLeftToTheLayout()
+{
+    QWidget window;
+    window.resize(400, 400);
+    CVelmarMenu menu(&window);
+    for (int row = 0; row < 3; ++row) {
+        menu.AddListWidgetButton(QString::number(row));
+    }
+    window.show();
+    menu.show();
+    menu.HideMenuBtn({-1});
+    menu.AddListWidgetButton("3");
+    QTRY_COMPARE(menu.MenuButton(3)->geometry(), QRect(0, 2 * 24, 144, 24));
+    menu.ShowMenuBtn({2});
+    QTRY_COMPARE(menu.MenuButton(3)->geometry(), QRect(0, 3 * 24, 144, 24));
+    QCOMPARE(menu.MenuButton(2)->geometry(), QRect(0, 2 * 24, 144, 24));
+    menu.hide();
+}
+
+void CVelmarMenuTest::layoutTakesOverWhenAnOpenListRests()
+{
+    QWidget window;
+    window.resize(400, 400);
+    CVelmarMenu menu(&window);
+    menu.AddListWidgetButton("0");
+    window.show();
+    menu.show();
+    menu.AddListWidgetButton("1");
+    menu.AddListWidgetButton("2");
+    QVERIFY(!menu.m_pScrollLayout->isEnabled());
+    QTRY_VERIFY(menu.m_pScrollLayout->isEnabled());
+    QVERIFY(menu.ui->m_layoutWidgetMenu->isEnabled());
+    QCOMPARE(menu.MenuButton(2)->geometry(), QRect(0, 48, 144, 24));
+    // What the host does to a row shows again.
+    menu.MenuButton(1)->hide();
+    menu.m_pScrollWidget->setFixedHeight(48);
+    QTRY_COMPARE(menu.MenuButton(2)->geometry(), QRect(0, 24, 144, 24));
+    menu.hide();
+}
+
+void CVelmarMenuTest::listClosedBeforeItsLayoutOpensInOrder()
+{
+    QWidget window;
+    window.resize(400, 400);
+    CVelmarMenu menu(&window);
+    menu.AddListWidgetButton("0");
+    window.show();
+    menu.show();
+    menu.AddListWidgetButton("1");
+    menu.hide();
+    menu.AddListWidgetButton("2");
+    menu.show();
+    for (int row = 0; row < 3; ++row) {
+        QCOMPARE(menu.MenuButton(row)->geometry(), QRect(0, row * 24, 144, 24));
+    }
+    menu.hide();
+}
+
+void CVelmarMenuTest::rowsOutOfViewAreNotPaintedUntilTheyAreScrolledTo()
+{
+    QWidget window;
+    window.resize(400, 400);
+    CVelmarMenu menu(&window);
+    for (int row = 0; row < 20; ++row) {
+        menu.AddListWidgetButton("row");
+    }
+    menu.hide();
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QSet<QObject*> painted;
+    class Watch : public QObject
+    {
+    public:
+        explicit Watch(QSet<QObject*>& seen)
+            : m_seen(seen)
+        {}
+        bool eventFilter(QObject* object, QEvent* event) override
+        {
+            if (event->type() == QEvent::Paint) {
+                m_seen.insert(object);
+            }
+            return false;
+        }
+
+    private:
+        QSet<QObject*>& m_seen;
+    };
+    Watch watch(painted);
+    for (int row = 0; row < 20; ++row) {
+        menu.MenuButton(row)->installEventFilter(&watch);
+    }
+    menu.show();
+    QTRY_VERIFY(painted.contains(menu.MenuButton(0)) && painted.contains(menu.MenuButton(4)));
+    QVERIFY(!painted.contains(menu.MenuButton(5)));
+    menu.m_pScrollArea->verticalScrollBar()->setValue(15 * 24);
+    QTRY_VERIFY(painted.contains(menu.MenuButton(15)) && painted.contains(menu.MenuButton(19)));
+    QVERIFY(!painted.contains(menu.MenuButton(10)));
+    // A row changed out of view is painted as it is now.
+    menu.MenuButton(0)->setStyleSheet("QPushButton{background:#ff0000;border:none;}");
+    menu.MenuButton(0)->setText(QString());
+    menu.m_pScrollArea->verticalScrollBar()->setValue(0);
+    QTRY_COMPARE(window.grab().toImage().pixelColor(60, 16), QColor("#ff0000"));
+    menu.hide();
+}
+
 void CVelmarMenuTest::buttonsDoNotTakeADialogsReturnKey()
 {
     QDialog dialog;
@@ -872,13 +1027,22 @@ void CVelmarMenuTest::manyRowsCostWhatFewDo_data()
     QTest::addColumn<int>("kind");
     QTest::newRow("plain") << 0;
     QTest::newRow("scrolling") << 1;
+    QTest::newRow("scrolling, open, one in each turn of the event loop") << 2;
+    QTest::newRow("scrolling, opening") << 3;
 }
 
 void CVelmarMenuTest::manyRowsCostWhatFewDo()
 {
     QFETCH(int, kind);
     const auto perRow = [kind](int rows) {
-        CVelmarMenu menu(nullptr);
+        QWidget window;
+        window.resize(400, 400);
+        CVelmarMenu menu(&window);
+        menu.hide();
+        window.show();
+        if (kind == 2) {
+            menu.show();
+        }
         QElapsedTimer timer;
         timer.start();
         for (int row = 0; row < rows; ++row) {
@@ -887,8 +1051,18 @@ void CVelmarMenuTest::manyRowsCostWhatFewDo()
             } else {
                 menu.AddListWidgetButton(QStringLiteral("row"));
             }
+            if (kind == 2) {
+                QCoreApplication::processEvents();
+            }
         }
-        return double(timer.nsecsElapsed()) / rows;
+        if (kind == 3) {
+            timer.restart();
+            menu.show();
+            QCoreApplication::processEvents();
+        }
+        const double cost = double(timer.nsecsElapsed()) / rows;
+        menu.hide();
+        return cost;
     };
     perRow(100);
     double few = perRow(100);
