@@ -9,6 +9,16 @@ class CCustomMenu;
  *
  * The menu is a child of the editor's parent, so that it can lie over the editor's edge; the editor deletes it.
  *
+ * It has no exported symbols, but is known by name while the library is loaded, so that a host can make one:
+ *
+ * @code
+ * void* made = QMetaType::fromName("CPlainTextEdit").create();
+ * auto* notes = qobject_cast<QPlainTextEdit*>(static_cast<QObject*>(made));
+ * layout->addWidget(notes);
+ * @endcode
+ *
+ * Within the library:
+ *
  * @code
  * auto* notes = new CPlainTextEdit(page);
  * layout->addWidget(notes);
@@ -20,7 +30,7 @@ class CPlainTextEdit : public QPlainTextEdit
     Q_OBJECT
 
 public:
-    /** @param parent the menu's parent as well; without one the menu is a small window of its own */
+    /** @param parent the menu's parent as well; without one the menu is a small window until the editor has one */
     explicit CPlainTextEdit(QWidget* parent = nullptr);
     ~CPlainTextEdit() override;
 

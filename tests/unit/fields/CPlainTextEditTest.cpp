@@ -1,17 +1,13 @@
 #include <CustomControls/fields/CPlainTextEdit.h>
-#include <CustomControls/menus/CCustomMenu.h>
-#include <CustomControls/menus/CCustomMenuItem.h>
 
-#include "ui_CCustomMenu.h"
-#include "ui_CCustomMenuItem.h"
+#include "TextViewChecks.h"
 
 #include <tests/support/TestMain.h>
 
-#include <QClipboard>
 #include <QContextMenuEvent>
-#include <QCursor>
-#include <QPointer>
 #include <QScrollBar>
+
+using Page = TextViewPage<CPlainTextEdit>;
 
 class CPlainTextEditTest : public QObject
 {
@@ -21,47 +17,40 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void sheetsAndPoliciesAreExact();
-    void menuIsWhiteAndHasFourRows();
+    void menuIsWhiteAndHasFourRows() { m_page->CheckLook(4); }
     void rowsAreLabelledInTheSettledOrder_data();
     void rowsAreLabelledInTheSettledOrder();
     void menuOpensAtThePosition();
     void menuStaysInsideTheParentsEdges();
+    void menuOfASmallParentReachesOverItsOtherEdges();
     void contextMenuEventOpensTheMenu();
     void selectionAndClipboardEnableTheRows_data();
     void selectionAndClipboardEnableTheRows();
+    void menuWithoutRowsStillOpens();
+    void disabledRowDoesNothing();
     void cutMovesTheSelectionToTheClipboard();
     void copyLeavesTheText();
+    void pasteInsertsTheClipboard_data();
     void pasteInsertsTheClipboard();
     void selectAllSelects();
-    void rowGivesTheFocusBack();
-    void leftReleaseClosesTheMenu_data();
-    void leftReleaseClosesTheMenu();
-    void focusLossUnderTheCursorIsSwallowed();
-    void focusLossElsewhereClosesTheMenu();
+    void rowGivesTheFocusBack() { m_page->CheckRowGivesTheFocusBack(3); }
+    void leftReleaseClosesTheMenu() { m_page->CheckLeftReleaseCloses(); }
+    void focusLossFollowsTheCursor() { m_page->CheckFocusLossFollowsTheCursor(); }
     void scrollBarHasNoMenu();
     void editorDeletesItsMenu();
-    void menuDeletedFirstIsForgotten();
-    void worksWithoutParent();
-    void metaTypeMakesOne();
+    void menuDeletedFirstIsForgotten() { m_page->CheckMenuDeletedFirst(); }
+    void menuIsAWindowUntilTheEditorHasAParent() { Page::CheckWithoutParent(); }
+    void hostMakesOneByItsName() { Page::CheckMetaType<QPlainTextEdit>("CPlainTextEdit"); }
 
 private:
-    std::unique_ptr<QWidget> m_page;
+    std::unique_ptr<Page> m_page;
     CPlainTextEdit* m_edit = nullptr;
 };
 
 void CPlainTextEditTest::init()
 {
-    QCursor::setPos(790, 590);
-    QGuiApplication::clipboard()->clear();
-    m_page = std::make_unique<QWidget>();
-    m_page->resize(500, 400);
-    m_edit = new CPlainTextEdit(m_page.get());
-    m_edit->setGeometry(50, 60, 300, 200);
-    m_edit->setPlainText(QStringLiteral("one two"));
-    m_page->show();
-    m_page->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_page.get()));
-    m_edit->setFocus();
+    m_page = std::make_unique<Page>();
+    m_edit = m_page->view;
 }
 
 void CPlainTextEditTest::cleanup()
@@ -90,21 +79,6 @@ void CPlainTextEditTest::sheetsAndPoliciesAreExact()
     QCOMPARE(m_edit->contextMenuPolicy(), Qt::CustomContextMenu);
 }
 
-void CPlainTextEditTest::menuIsWhiteAndHasFourRows()
-{
-    CCustomMenu* menu = m_edit->m_pMenu;
-    QCOMPARE(menu->parent(), m_page.get());
-    QVERIFY(menu->isHidden());
-    QCOMPARE(menu->m_eMenuStyle, MenuStyleWhite);
-    QCOMPARE(
-        menu->ui->m_widgetMenu->styleSheet(),
-        QStringLiteral("QWidget#m_widgetMenu{background-color:#FFFFFF;border:1px solid #a1a1a1;border-radius:4px;}"));
-    QCOMPARE(menu->MenuButtonCount(), 4);
-    QCOMPARE(menu->m_iWidth, 180);
-    QCOMPARE(menu->m_iItemHeight, 24);
-    QCOMPARE(menu->size(), QSize(180, 108));
-}
-
 void CPlainTextEditTest::rowsAreLabelledInTheSettledOrder_data()
 {
     QTest::addColumn<int>("row");
@@ -131,13 +105,7 @@ void CPlainTextEditTest::rowsAreLabelledInTheSettledOrder()
     QFETCH(QString, text);
     QFETCH(QString, shortcut);
     QFETCH(QString, icon);
-    const CCustomMenuItem* item = m_edit->m_pMenu->MenuButton(row);
-    QCOMPARE(item->ui->m_labelText->text(), text);
-    QCOMPARE(item->ui->m_labelShortCut->text(), shortcut);
-    QCOMPARE(item->m_strIcon, icon);
-    QVERIFY(item->m_strIconHover.isEmpty() && item->m_strIconDisabled.isEmpty());
-    QVERIFY(item->ui->m_labelIcon->pixmap().isNull());
-    QVERIFY(item->ui->m_labelText->styleSheet().contains(QLatin1String("color:#202020;")));
+    m_page->CheckRow(row, text, shortcut, icon);
 }
 
 void CPlainTextEditTest::menuOpensAtThePosition()
@@ -145,7 +113,7 @@ void CPlainTextEditTest::menuOpensAtThePosition()
     Q_EMIT m_edit->customContextMenuRequested(QPoint(10, 20));
     QVERIFY(m_edit->m_pMenu->isVisible());
     QCOMPARE(m_edit->m_pMenu->pos(), QPoint(60, 80));
-    QCOMPARE(m_page->children().constLast(), m_edit->m_pMenu);
+    QCOMPARE(m_page->page->children().constLast(), m_edit->m_pMenu);
 }
 
 void CPlainTextEditTest::menuStaysInsideTheParentsEdges()
@@ -160,6 +128,15 @@ void CPlainTextEditTest::menuStaysInsideTheParentsEdges()
     QCOMPARE(m_edit->m_pMenu->pos(), QPoint(320, 292));
     Q_EMIT m_edit->customContextMenuRequested(QPoint(271, 103));
     QCOMPARE(m_edit->m_pMenu->pos(), QPoint(316, 288));
+}
+
+void CPlainTextEditTest::menuOfASmallParentReachesOverItsOtherEdges()
+{
+    // The right and lower edges decide, also where the menu finds no room before them.
+    m_page->page->resize(150, 90);
+    m_edit->setGeometry(0, 0, 150, 90);
+    Q_EMIT m_edit->customContextMenuRequested(QPoint(10, 20));
+    QCOMPARE(m_edit->m_pMenu->pos(), QPoint(150 - 4 - 180, 90 - 4 - 108));
 }
 
 void CPlainTextEditTest::contextMenuEventOpensTheMenu()
@@ -198,6 +175,23 @@ void CPlainTextEditTest::selectionAndClipboardEnableTheRows()
     }
 }
 
+void CPlainTextEditTest::menuWithoutRowsStillOpens()
+{
+    m_edit->m_pMenu->RemoveAllMenuButtons();
+    Q_EMIT m_edit->customContextMenuRequested(QPoint(10, 20));
+    QVERIFY(m_edit->m_pMenu->isVisible());
+}
+
+void CPlainTextEditTest::disabledRowDoesNothing()
+{
+    QGuiApplication::clipboard()->setText(QStringLiteral("kept"));
+    Q_EMIT m_edit->customContextMenuRequested(QPoint(10, 20));
+    QCursor::setPos(m_edit->m_pMenu->mapToGlobal(QPoint(5, 30)));
+    QTest::mouseClick(m_edit->m_pMenu->MenuButton(1), Qt::LeftButton);
+    QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("kept"));
+    QVERIFY(m_edit->m_pMenu->isVisible());
+}
+
 void CPlainTextEditTest::cutMovesTheSelectionToTheClipboard()
 {
     m_edit->moveCursor(QTextCursor::Start);
@@ -220,13 +214,25 @@ void CPlainTextEditTest::copyLeavesTheText()
     QVERIFY(!m_edit->m_pMenu->isVisible());
 }
 
+void CPlainTextEditTest::pasteInsertsTheClipboard_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("a word") << "new ";
+    QTest::newRow("lines") << "a\nb\n\nc";
+    QTest::newRow("10,000 characters") << QString(10000, QChar('w'));
+    QTest::newRow("right to left") << QString::fromUtf8("\xd7\xa9\xd7\x9c\xd7\x95\xd7\x9d");
+}
+
 void CPlainTextEditTest::pasteInsertsTheClipboard()
 {
-    QGuiApplication::clipboard()->setText(QStringLiteral("new "));
+    QFETCH(QString, text);
+    QGuiApplication::clipboard()->setText(text);
     m_edit->moveCursor(QTextCursor::Start);
+    m_edit->moveCursor(QTextCursor::WordRight, QTextCursor::KeepAnchor);
     Q_EMIT m_edit->customContextMenuRequested(QPoint(10, 20));
     QTest::mouseClick(m_edit->m_pMenu->MenuButton(2), Qt::LeftButton);
-    QCOMPARE(m_edit->toPlainText(), QStringLiteral("new one two"));
+    QCOMPARE(m_edit->toPlainText(), text + QStringLiteral("two"));
+    QVERIFY(!m_edit->m_pMenu->isVisible());
 }
 
 void CPlainTextEditTest::selectAllSelects()
@@ -234,58 +240,6 @@ void CPlainTextEditTest::selectAllSelects()
     Q_EMIT m_edit->customContextMenuRequested(QPoint(10, 20));
     QTest::mouseClick(m_edit->m_pMenu->MenuButton(3), Qt::LeftButton);
     QCOMPARE(m_edit->textCursor().selectedText(), QStringLiteral("one two"));
-    QVERIFY(!m_edit->m_pMenu->isVisible());
-}
-
-void CPlainTextEditTest::rowGivesTheFocusBack()
-{
-    Q_EMIT m_edit->customContextMenuRequested(QPoint(10, 20));
-    QCursor::setPos(m_edit->m_pMenu->mapToGlobal(QPoint(5, 5)));
-    m_edit->m_pMenu->setFocus();
-    QTest::mouseClick(m_edit->m_pMenu->MenuButton(3), Qt::LeftButton);
-    QVERIFY(m_edit->hasFocus());
-}
-
-void CPlainTextEditTest::leftReleaseClosesTheMenu_data()
-{
-    QTest::addColumn<bool>("onViewport");
-    QTest::addColumn<Qt::MouseButton>("button");
-    QTest::addColumn<bool>("open");
-    QTest::newRow("viewport, left") << true << Qt::LeftButton << false;
-    QTest::newRow("viewport, right") << true << Qt::RightButton << true;
-    QTest::newRow("editor, left") << false << Qt::LeftButton << false;
-    QTest::newRow("editor, middle") << false << Qt::MiddleButton << true;
-}
-
-void CPlainTextEditTest::leftReleaseClosesTheMenu()
-{
-    QFETCH(bool, onViewport);
-    QFETCH(Qt::MouseButton, button);
-    QFETCH(bool, open);
-    Q_EMIT m_edit->customContextMenuRequested(QPoint(10, 20));
-    QWidget* watched = onViewport ? m_edit->viewport() : m_edit;
-    QMouseEvent event(QEvent::MouseButtonRelease, QPointF(1, 1), QPointF(1, 1), button, Qt::NoButton, {});
-    QVERIFY(!m_edit->eventFilter(watched, &event));
-    QCOMPARE(m_edit->m_pMenu->isVisible(), open);
-    QVERIFY(!m_edit->eventFilter(m_page.get(), &event));
-    QCOMPARE(m_edit->m_pMenu->isVisible(), open);
-}
-
-void CPlainTextEditTest::focusLossUnderTheCursorIsSwallowed()
-{
-    Q_EMIT m_edit->customContextMenuRequested(QPoint(10, 20));
-    QCursor::setPos(m_edit->m_pMenu->mapToGlobal(QPoint(5, 5)));
-    QFocusEvent event(QEvent::FocusOut);
-    QVERIFY(m_edit->eventFilter(m_edit, &event));
-    QVERIFY(m_edit->m_pMenu->isVisible());
-    m_edit->m_pMenu->hide();
-    QVERIFY(!m_edit->eventFilter(m_edit, &event));
-}
-
-void CPlainTextEditTest::focusLossElsewhereClosesTheMenu()
-{
-    Q_EMIT m_edit->customContextMenuRequested(QPoint(10, 20));
-    m_page->setFocus();
     QVERIFY(!m_edit->m_pMenu->isVisible());
 }
 
@@ -302,38 +256,6 @@ void CPlainTextEditTest::editorDeletesItsMenu()
     Q_EMIT m_edit->customContextMenuRequested(QPoint(10, 20));
     delete m_edit;
     QVERIFY(menu.isNull());
-}
-
-void CPlainTextEditTest::menuDeletedFirstIsForgotten()
-{
-    delete m_edit->m_pMenu;
-    QCOMPARE(m_edit->m_pMenu, nullptr);
-    Q_EMIT m_edit->customContextMenuRequested(QPoint(10, 20));
-    m_page->setFocus();
-    delete m_edit;
-}
-
-void CPlainTextEditTest::worksWithoutParent()
-{
-    CPlainTextEdit alone;
-    alone.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&alone));
-    Q_EMIT alone.customContextMenuRequested(QPoint(10, 20));
-    QVERIFY(alone.m_pMenu->isVisible());
-    QCOMPARE(alone.m_pMenu->pos(), alone.mapToGlobal(QPoint(10, 20)));
-    alone.setParent(m_page.get());
-    alone.show();
-    Q_EMIT alone.customContextMenuRequested(QPoint(10, 20));
-    QVERIFY(alone.m_pMenu->isVisible());
-    alone.setParent(nullptr);
-}
-
-void CPlainTextEditTest::metaTypeMakesOne()
-{
-    const QMetaType type = QMetaType::fromType<CPlainTextEdit>();
-    void* made = type.create();
-    QVERIFY(made);
-    type.destroy(made);
 }
 
 CUSTOMCONTROLS_TEST_MAIN(CPlainTextEditTest)
