@@ -12,6 +12,9 @@
 #include "pages/ToolTablePage.h"
 #include "pages/WatermarkPage.h"
 
+#include "pages/CombosPage.h"
+#include "pages/TextPage.h"
+
 #include <QCoreApplication>
 
 namespace {
@@ -41,6 +44,10 @@ const QList<PageEntry>& GalleryPages()
          Text(QT_TRANSLATE_NOOP("PageRegistry", "一次调用即可提问，返回用户按下的按钮。")), Create<MessageBoxesPage>},
         {QStringLiteral("tool-table"), Text(QT_TRANSLATE_NOOP("PageRegistry", "刀具表")),
          Text(QT_TRANSLATE_NOOP("PageRegistry", "刀库里的刀具：能用的可以选择，直径和长度就地修改。")), Create<ToolTablePage>},
+        {QStringLiteral("combos"), Text(QT_TRANSLATE_NOOP("PageRegistry", "下拉框")),
+         Text(QT_TRANSLATE_NOOP("PageRegistry", "面板里的深色下拉框，表格里的浅色下拉框，以及一层菜单。")), Create<CombosPage>},
+        {QStringLiteral("text"), Text(QT_TRANSLATE_NOOP("PageRegistry", "文本")),
+         Text(QT_TRANSLATE_NOOP("PageRegistry", "编辑器和浏览器，右键菜单与整个程序一致。")), Create<TextPage>},
         {QStringLiteral("machine"), Text(QT_TRANSLATE_NOOP("PageRegistry", "连接机床")),
          Text(QT_TRANSLATE_NOOP("PageRegistry", "通过有线网络、无线网络或 USB Type-C 找到并连接机床。")), Create<MachinePage>},
         {QStringLiteral("progress"), Text(QT_TRANSLATE_NOOP("PageRegistry", "进度对话框")),

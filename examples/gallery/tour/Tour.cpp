@@ -52,6 +52,8 @@ bool Tour::Prepare(const QStringList& onlyGroups, QString* problem)
     groups.push_back(TourMessageBoxes(this));
     groups.push_back(TourProgress(this));
     groups.push_back(TourNotices(this));
+    groups.push_back(TourCombos(this));
+    groups.push_back(TourText(this));
     groups.push_back(TourMachine(this));
     groups.push_back(TourToolConfirmation(this));
     groups.push_back(TourToolTable(this));

@@ -132,6 +132,8 @@ TourGroup TourProgress(Tour* tour);
 TourGroup TourToolConfirmation(Tour* tour);
 TourGroup TourToolTable(Tour* tour);
 TourGroup TourUsb(Tour* tour);
+TourGroup TourCombos(Tour* tour);
+TourGroup TourText(Tour* tour);
 
 /** The step that opens a page by a click on its name in the page list. */
 TourStep TourOpenPage(const QString& page);

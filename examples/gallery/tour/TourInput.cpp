@@ -33,6 +33,12 @@ void TourInput::Click(QWidget* widget, const QPoint& position)
     m_arguments << QStringLiteral("click") << QStringLiteral("1");
 }
 
+void TourInput::RightClick(QWidget* widget, const QPoint& position)
+{
+    MoveTo(widget, position);
+    m_arguments << QStringLiteral("click") << QStringLiteral("3");
+}
+
 void TourInput::MoveTo(QWidget* widget)
 {
     MoveTo(widget, widget ? widget->rect().center() : QPoint());

@@ -26,6 +26,7 @@ public:
     /** Scrolls the widget into view, moves to its middle and clicks. Null counts as a failure of the step. */
     void Click(QWidget* widget);
     void Click(QWidget* widget, const QPoint& position);
+    void RightClick(QWidget* widget, const QPoint& position);
     void MoveTo(QWidget* widget);
     void MoveTo(QWidget* widget, const QPoint& position);
     /** From where the pointer stands, in pixels of the screen. */

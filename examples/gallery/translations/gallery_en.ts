@@ -948,6 +948,22 @@
 <context>
     <name>PageRegistry</name>
     <message>
+        <source>下拉框</source>
+        <translation>Combo boxes</translation>
+    </message>
+    <message>
+        <source>面板里的深色下拉框，表格里的浅色下拉框，以及一层菜单。</source>
+        <translation>Dark combo boxes of a panel, light ones of a table, and a menu of one level.</translation>
+    </message>
+    <message>
+        <source>文本</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>编辑器和浏览器，右键菜单与整个程序一致。</source>
+        <translation>An editor and a browser whose context menus match the rest of the program.</translation>
+    </message>
+    <message>
         <source>视图提示</source>
         <translation>Toasts</translation>
     </message>
@@ -1823,6 +1839,268 @@ for the fourth axis</translation>
     <message>
         <source>图片按间隔逐张显示。</source>
         <translation>Pictures shown one after the other.</translation>
+    </message>
+</context>
+<context>
+    <name>CombosPage</name>
+    <message>
+        <source>选择任意一项，这里会显示结果。</source>
+        <translation>Choose any entry; the outcome is told here.</translation>
+    </message>
+    <message>
+        <source>材料</source>
+        <translation>Material</translation>
+    </message>
+    <message>
+        <source>铝合金</source>
+        <translation>Aluminium</translation>
+    </message>
+    <message>
+        <source>黄铜</source>
+        <translation>Brass</translation>
+    </message>
+    <message>
+        <source>亚克力</source>
+        <translation>Acrylic</translation>
+    </message>
+    <message>
+        <source>胡桃木</source>
+        <translation>Walnut</translation>
+    </message>
+    <message>
+        <source>刀具</source>
+        <translation>Tool</translation>
+    </message>
+    <message>
+        <source>平底刀 %1</source>
+        <translation>End mill %1</translation>
+    </message>
+    <message>
+        <source>球头刀 %1</source>
+        <translation>Ball mill %1</translation>
+    </message>
+    <message>
+        <source>钻头 %1</source>
+        <translation>Drill %1</translation>
+    </message>
+    <message>
+        <source>雕刻刀 %1</source>
+        <translation>Engraver %1</translation>
+    </message>
+    <message>
+        <source>加工方式</source>
+        <translation>Strategy</translation>
+    </message>
+    <message>
+        <source>分层粗加工</source>
+        <translation>Roughing in layers</translation>
+    </message>
+    <message>
+        <source>等高精加工</source>
+        <translation>Contour finishing</translation>
+    </message>
+    <message>
+        <source>平行精加工</source>
+        <translation>Parallel finishing</translation>
+    </message>
+    <message>
+        <source>添加刀具</source>
+        <translation>Add a tool</translation>
+    </message>
+    <message>
+        <source>移除最后一把</source>
+        <translation>Remove the last</translation>
+    </message>
+    <message>
+        <source>备用刀 %1 号</source>
+        <translation>Spare tool %1</translation>
+    </message>
+    <message>
+        <source>加工参数</source>
+        <translation>Cutting parameters</translation>
+    </message>
+    <message>
+        <source>深色面板里的下拉框。到第六项时，列表变成可滚动的。</source>
+        <translation>Combo boxes of a dark panel. With the sixth entry the list begins to scroll.</translation>
+    </message>
+    <message>
+        <source>%1 把刀具，滚动列表</source>
+        <translation>%1 tools, scrolling list</translation>
+    </message>
+    <message>
+        <source>%1 把刀具，普通列表</source>
+        <translation>%1 tools, plain list</translation>
+    </message>
+    <message>
+        <source>底座</source>
+        <translation>Base</translation>
+    </message>
+    <message>
+        <source>齿轮</source>
+        <translation>Gear</translation>
+    </message>
+    <message>
+        <source>面板</source>
+        <translation>Panel</translation>
+    </message>
+    <message>
+        <source>零件</source>
+        <translation>Part</translation>
+    </message>
+    <message>
+        <source>加工面</source>
+        <translation>Side</translation>
+    </message>
+    <message>
+        <source>数量</source>
+        <translation>Count</translation>
+    </message>
+    <message>
+        <source>正面</source>
+        <translation>Front</translation>
+    </message>
+    <message>
+        <source>反面</source>
+        <translation>Back</translation>
+    </message>
+    <message>
+        <source>双面</source>
+        <translation>Both</translation>
+    </message>
+    <message>
+        <source>零件清单</source>
+        <translation>List of parts</translation>
+    </message>
+    <message>
+        <source>表格里的浅色下拉框，用法与 QComboBox 相同。</source>
+        <translation>Light combo boxes of a table, used as any QComboBox.</translation>
+    </message>
+    <message>
+        <source>手动转速</source>
+        <translation>Manual speed</translation>
+    </message>
+    <message>
+        <source>自动转速</source>
+        <translation>Automatic speed</translation>
+    </message>
+    <message>
+        <source>恒定线速度</source>
+        <translation>Constant surface speed</translation>
+    </message>
+    <message>
+        <source>尚未保存</source>
+        <translation>Not saved yet</translation>
+    </message>
+    <message>
+        <source>已保存：%1</source>
+        <translation>Saved: %1</translation>
+    </message>
+    <message>
+        <source>主轴</source>
+        <translation>Spindle</translation>
+    </message>
+    <message>
+        <source>离开下拉框时才保存。</source>
+        <translation>Saves when the box is left.</translation>
+    </message>
+    <message>
+        <source>机床</source>
+        <translation>Machine</translation>
+    </message>
+    <message>
+        <source>开始加工</source>
+        <translation>Start cutting</translation>
+    </message>
+    <message>
+        <source>回到原点</source>
+        <translation>Go home</translation>
+    </message>
+    <message>
+        <source>断开连接</source>
+        <translation>Disconnect</translation>
+    </message>
+    <message>
+        <source>机床操作</source>
+        <translation>Machine</translation>
+    </message>
+    <message>
+        <source>菜单</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>带图标、快捷键和分隔线的一层菜单。</source>
+        <translation>A menu of one level with icons, shortcuts and a separator.</translation>
+    </message>
+    <message>
+        <source>%1：%2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>TextPage</name>
+    <message>
+        <source>加工备注</source>
+        <translation>Notes</translation>
+    </message>
+    <message>
+        <source>右键菜单：剪切、复制、粘贴、全选。</source>
+        <translation>Right click: cut, copy, paste, select all.</translation>
+    </message>
+    <message>
+        <source>第一面加工前请确认压板没有挡住刀路。
+第二面以左下角的销孔定位。
+精加工余量 0.2 mm。</source>
+        <translation>Before the first side, make sure that no clamp is in the way of the tool.
+The second side is located by the pin at the lower left.
+Leave 0.2 mm for finishing.</translation>
+    </message>
+    <message>
+        <source>操作手册</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>只读；选中文字后右键可以复制。</source>
+        <translation>Read only; selected text can be copied by a right click.</translation>
+    </message>
+    <message>
+        <source>装夹</source>
+        <translation>Clamping</translation>
+    </message>
+    <message>
+        <source>把毛坯放在工作台中央，四角用压板压紧。压板要避开刀路。</source>
+        <translation>Put the stock in the middle of the table and clamp its four corners, out of the way of the tool.</translation>
+    </message>
+    <message>
+        <source>对刀</source>
+        <translation>Setting the zero</translation>
+    </message>
+    <message>
+        <source>让刀尖轻触毛坯表面，再按下“设为零点”。换刀之后要重新对刀。</source>
+        <translation>Let the tip of the tool touch the stock and press &quot;Set zero&quot;. Do so again after each change of tool.</translation>
+    </message>
+    <message>
+        <source>加工</source>
+        <translation>Cutting</translation>
+    </message>
+    <message>
+        <source>关好防护门，点击“开始加工”。运行中不要打开防护门。</source>
+        <translation>Close the door and click &quot;Start cutting&quot;. Keep the door closed while it runs.</translation>
+    </message>
+    <message>
+        <source>清理</source>
+        <translation>Cleaning</translation>
+    </message>
+    <message>
+        <source>加工结束后用吸尘器清理切屑，最后取下工件。</source>
+        <translation>When it is done, remove the chips with a vacuum cleaner, then take out the part.</translation>
+    </message>
+    <message>
+        <source>剪贴板是空的。</source>
+        <translation>The clipboard is empty.</translation>
+    </message>
+    <message>
+        <source>剪贴板：%1</source>
+        <translation>Clipboard: %1</translation>
     </message>
 </context>
 </TS>
