@@ -2,6 +2,7 @@
 
 #include <tests/support/TestMain.h>
 
+#include <QLineEdit>
 #include <QSignalSpy>
 
 class CXComboboxTest : public QObject
@@ -12,6 +13,7 @@ private Q_SLOTS:
     void isBornWithoutAParent();
     void focusLossReportsTheCurrentIndex();
     void gainingTheFocusDoesNothing();
+    void focusIsKeptFromTheToolkitsBox();
 };
 
 void CXComboboxTest::isBornWithoutAParent()
@@ -46,6 +48,21 @@ void CXComboboxTest::gainingTheFocusDoesNothing()
     QCoreApplication::sendEvent(&box, &in);
     QCOMPARE(spy.size(), 0);
     QCOMPARE(box.currentIndex(), 0);
+}
+
+void CXComboboxTest::focusIsKeptFromTheToolkitsBox()
+{
+    CXCombobox box(nullptr);
+    box.addItem("abc");
+    box.setEditable(true);
+    QSignalSpy finished(box.lineEdit(), &QLineEdit::editingFinished);
+    // The toolkit's box hands both to its line edit, which selects its text or ends the editing.
+    QFocusEvent in(QEvent::FocusIn, Qt::TabFocusReason);
+    QCoreApplication::sendEvent(&box, &in);
+    QCOMPARE(box.lineEdit()->selectedText(), QString());
+    QFocusEvent out(QEvent::FocusOut);
+    QCoreApplication::sendEvent(&box, &out);
+    QCOMPARE(finished.size(), 0);
 }
 
 CUSTOMCONTROLS_TEST_MAIN(CXComboboxTest)
