@@ -1069,10 +1069,12 @@ void CVelmarMenuTest::manyRowsCostWhatFewDo()
     for (int round = 0; round < 4; ++round) {
         few = std::min(few, perRow(100));
     }
-    const double many = perRow(kMany);
-    qInfo("%.1f us per row at 100, %.1f at %d: %.2f", few / 1000, many / 1000, kMany, many / few);
-    // Coarse, for a busy machine: growth with the number of rows would be a factor of a hundred.
-    QVERIFY(many < 25 * few);
+    // The event loop's turns take most of their time for painting, so fewer rows have to do.
+    const int rows = kind == 2 ? kMany / 5 : kMany;
+    const double many = perRow(rows);
+    qInfo("%.1f us per row at 100, %.1f at %d: %.2f", few / 1000, many / 1000, rows, many / few);
+    // Coarse, for a busy machine: growth with the number of rows would be a factor of twenty or a hundred.
+    QVERIFY(many < (kind == 2 ? 8 : 25) * few);
 }
 
 CUSTOMCONTROLS_TEST_MAIN(CVelmarMenuTest)
