@@ -635,9 +635,25 @@ void CVelmarMenu::TakeFromLayouts(QWidget* entry)
 void CVelmarMenu::ShowIfOpen(QWidget* entry)
 {
     // The toolkit would do it in the next turn of the event loop; until then the entry would count as hidden.
-    if (isVisible() && !IsHiddenItself(entry)) {
-        entry->show();
+    if (!isVisible() || IsHiddenItself(entry)) {
+        return;
     }
+    if (entry->parentWidget() != m_pScrollWidget || IsInView(entry)) {
+        entry->show();
+        return;
+    }
+    // Whatever comes to the screen may lie under the mouse, for which the toolkit looks through all rows. This one
+    // cannot.
+    m_pScrollWidget->setAttribute(Qt::WA_TransparentForMouseEvents, true);
+    entry->show();
+    if (m_pScrollWidget) {
+        m_pScrollWidget->setAttribute(Qt::WA_TransparentForMouseEvents, false);
+    }
+}
+
+bool CVelmarMenu::IsInView(const QWidget* listRow) const
+{
+    return QRect(-m_pScrollWidget->pos(), m_pScrollArea->viewport()->size()).intersects(listRow->geometry());
 }
 
 void CVelmarMenu::ButtonGone(QPushButton* button)

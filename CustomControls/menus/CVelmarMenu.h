@@ -136,6 +136,7 @@ private:
     void SetLayoutsEnabled(bool enabled);
     void TakeFromLayouts(QWidget* entry);
     void ShowIfOpen(QWidget* entry);
+    bool IsInView(const QWidget* listRow) const;
     void ButtonGone(QPushButton* button);
     void ItemGone(CVelmarMenuItem* item);
     void SplitLineGone(QWidget* line);
