@@ -18,6 +18,6 @@ say "No display here: walking the tour on a virtual one"
 pictures=build/release/tour
 rm -rf "$pictures"
 # The tour reads every text it sees in the language that the controls are written in.
-tests/support/with-display.sh build/release/bin/gallery --language zh --tour "$pictures" "$@"
+WITH_COMPOSITOR=1 tests/support/with-display.sh build/release/bin/gallery --language zh --tour "$pictures" "$@"
 say "The pictures lie in $PWD/$pictures:"
 ls "$pictures"
