@@ -272,6 +272,9 @@ void CWatermarkWidgetTest::labelShowsTheUpperLeftQuarter()
 
 void CWatermarkWidgetTest::markIsPaintedOnItsWindow()
 {
+    if (QGuiApplication::platformName() != QLatin1String("offscreen")) {
+        QSKIP("only the offscreen platform gives a window's own picture back");
+    }
     CWatermarkWidget watermark;
     watermark.resize(300, 200);
     watermark.ShowWatermark();
@@ -296,6 +299,9 @@ void CWatermarkWidgetTest::markIsPaintedOnItsWindow()
 
 void CWatermarkWidgetTest::markIsCutToItsText()
 {
+#ifdef Q_OS_WIN
+    QSKIP("nothing is cut where every window is composed");
+#endif
     CWatermarkWidget watermark;
     watermark.resize(300, 200);
     watermark.ShowWatermark();
@@ -328,6 +334,9 @@ void CWatermarkWidgetTest::markIsCutToItsText()
 
 void CWatermarkWidgetTest::markWithoutTextIsCutAway()
 {
+#ifdef Q_OS_WIN
+    QSKIP("nothing is cut where every window is composed");
+#endif
     CWatermarkWidget watermark;
     watermark.resize(300, 1); // too low for a row of text
     watermark.ShowWatermark();
