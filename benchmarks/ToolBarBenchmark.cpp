@@ -116,10 +116,8 @@ Comparison::Run Repaint(Make make)
     };
 }
 
-// The width of a window that holds so many blocks of three buttons changes and the window is painted.
-double Resize(int blocks)
+void AddBlocks(QMainWindow& window, int blocks)
 {
-    QMainWindow window;
     for (int i = 0; i < blocks; ++i) {
         auto* block = new CToolBarItem(QStringLiteral("Group"), &window);
         for (int k = 0; k < 3; ++k) {
@@ -128,6 +126,13 @@ double Resize(int blocks)
         block->CreateToolBlock(false);
         window.addToolBar(block);
     }
+}
+
+// The width of a window that holds so many blocks of three buttons changes and the window is painted.
+double Resize(int blocks)
+{
+    QMainWindow window;
+    AddBlocks(window, blocks);
     window.resize(400 + blocks * 100, 400);
     window.show();
     QCoreApplication::processEvents();
@@ -137,6 +142,19 @@ double Resize(int blocks)
         window.resize(width + blocks * 100, 400);
         QCoreApplication::processEvents();
     }
+    return static_cast<double>(timer.nsecsElapsed()) / 1e9;
+}
+
+// A window with so many blocks of three buttons is shown for the first time and painted.
+double FirstShow(int blocks)
+{
+    QMainWindow window;
+    AddBlocks(window, blocks);
+    window.resize(400 + blocks * 100, 400);
+    QElapsedTimer timer;
+    timer.start();
+    window.show();
+    QCoreApplication::processEvents();
     return static_cast<double>(timer.nsecsElapsed()) / 1e9;
 }
 
@@ -153,5 +171,7 @@ const Comparison repaint = Comparison("tool bar: repaint of a hovered button")
                                .Goal(1.0);
 
 const Comparison resize = Comparison("tool bar: a resize across the row, per block").Growth(Resize, 10, 80).Goal(1.5);
+
+const Comparison firstShow = Comparison("tool bar: the first show, per block").Growth(FirstShow, 10, 400).Goal(1.5);
 
 } // namespace

@@ -143,16 +143,39 @@ void CToolBar::contextMenuEvent(QContextMenuEvent* event)
 
 void CToolBar::showEvent(QShowEvent* event)
 {
-    for (const QWidget* ancestor = parentWidget(); ancestor; ancestor = ancestor->parentWidget()) {
+    const bool unified = m_nUnifiedRevision == CToolButton::m_nLinesRevision;
+    m_nUnifiedRevision = 0;
+    for (const QWidget* ancestor = parentWidget(); ancestor && !unified; ancestor = ancestor->parentWidget()) {
         if (const auto* window = qobject_cast<const QMainWindow*>(ancestor)) {
-            const QList<CToolBarItem*> blocks = window->findChildren<CToolBarItem*>();
-            if (blocks.size() > 1) {
-                CToolBarItem::UnifyBlocksHeight(blocks);
-            }
+            UnifyBlocksOf(*window);
             break;
         }
     }
     QToolBar::showEvent(event);
+}
+
+// A window shows its bars in one go, and to look through it again for each of them would cost the square of their
+// number. So the bars that are about to be shown as well are told that it is done; what happens meanwhile to any button
+// takes that back, and so does the next turn of the event loop.
+void CToolBar::UnifyBlocksOf(const QMainWindow& window)
+{
+    const QList<CToolBar*> bars = window.findChildren<CToolBar*>();
+    QList<CToolBarItem*> blocks;
+    for (CToolBar* bar : bars) {
+        if (auto* block = qobject_cast<CToolBarItem*>(bar)) {
+            blocks.append(block);
+        }
+    }
+    if (blocks.size() > 1) {
+        CToolBarItem::UnifyBlocksHeight(blocks);
+    }
+    for (CToolBar* bar : bars) {
+        if (!bar->isVisible() && bar->isVisibleTo(&window)) {
+            bar->m_nUnifiedRevision = CToolButton::m_nLinesRevision;
+        }
+    }
+    QMetaObject::invokeMethod(
+        qApp, [] { ++CToolButton::m_nLinesRevision; }, Qt::QueuedConnection);
 }
 
 // In the bar's own coordinates: a button of a stack lies in the stack's container. 0 when none is visible.

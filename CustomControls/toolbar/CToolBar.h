@@ -9,6 +9,7 @@
 #include <QToolBar>
 
 class CToolButton;
+class QMainWindow;
 class QPainter;
 class QToolButton;
 
@@ -70,7 +71,12 @@ protected:
     int m_nFixedWidthForPainting = -1;
     bool m_bSplitLastWord = false;
 
+    // The state of all buttons in which the bar was last found at one height with the others; 0 when it has to be
+    // asked.
+    quint64 m_nUnifiedRevision = 0;
+
 private:
+    static void UnifyBlocksOf(const QMainWindow& window);
     int RightmostButtonEdge() const;
     QRect GroupCaptionPlace(QPainter& painter, const QRect& area, const QString& caption);
 

@@ -213,6 +213,7 @@ QList<CToolButton*> CToolBarItem::CreateToolBlock(bool leadingSpacer)
     m_vecVerticalGroupIndex.clear();
     m_hashHighlightColorIndex.clear();
 
+    m_nUnifiedRevision = 0;
     for (CToolButton* button : std::as_const(m_listToolBtn)) {
         button->SetSharedWidth(maxTextWidth);
         if (!button->IsVerticalBtn()) {

@@ -7,6 +7,7 @@
 #include <QIcon>
 #include <QMenu>
 #include <QPainter>
+#include <QPointer>
 #include <QStyleOptionToolButton>
 
 #include <cmath>
@@ -55,6 +56,8 @@ QColor CaptionColor(bool enabled, const QColor& highlight)
 
 } // namespace
 
+quint64 CToolButton::m_nLinesRevision = 1;
+
 CToolButton::CToolButton(QWidget* parent)
     : QToolButton(parent)
 {
@@ -80,6 +83,7 @@ void CToolButton::SetSharedTextLines(int lines)
         return;
     }
     m_nSharedTextLines = valid;
+    ++m_nLinesRevision;
     updateGeometry();
 }
 
@@ -120,7 +124,11 @@ bool CToolButton::eventFilter(QObject* watched, QEvent* event)
             m_bPressed = true;
             if (!isEnabled()) {
                 qDebug(" disabled btn clicked");
+                const QPointer<CToolButton> alive(this);
                 Q_EMIT SignalBtnDisabledClick();
+                if (!alive) {
+                    return true; // whoever was told deleted the button: nobody is left to take the press
+                }
             }
             break;
         case QEvent::MouseButtonRelease:

@@ -51,7 +51,7 @@ public:
     QSize sizeHint() const override;
 
 Q_SIGNALS:
-    /** A mouse button was pressed on the button while it was disabled. */
+    /** A mouse button was pressed on the button while it was disabled. Who hears it may delete the button. */
     void SignalBtnDisabledClick();
 
 protected:
@@ -72,4 +72,10 @@ protected:
     bool m_bHovered = false;
     bool m_bPressed = false;
     bool m_bFocusState = false;
+
+private:
+    friend class CToolBar;
+
+    // Another one for each change of any button's lines, and for each turn of the event loop in which bars were shown.
+    static quint64 m_nLinesRevision;
 };

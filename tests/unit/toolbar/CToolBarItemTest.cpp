@@ -8,6 +8,7 @@
 #include <tests/support/TestMain.h>
 
 #include <QMainWindow>
+#include <QStackedWidget>
 #include <QTemporaryDir>
 #include <QVBoxLayout>
 
@@ -88,6 +89,10 @@ private Q_SLOTS:
     void showUnifiesTheBlocksOfAMainWindow();
     void showLeavesASingleBlockAlone();
     void showFindsBlocksDeepInTheWindow();
+    void linesThatChangeAmidTheShowReachTheOthers();
+    void showingAgainUnifiesAnew();
+    void hiddenBlocksThatArriveCount();
+    void blockFilledAmidTheShowIsUnified();
     void emptyAndLongCaptionsAreHarmless();
 
     void plainButtonsFollowNoRule();
@@ -687,6 +692,84 @@ void CToolBarItemTest::showFindsBlocksDeepInTheWindow()
     deep->m_listToolBtn.first()->SetSharedTextLines(2);
     window.show();
     QCOMPARE(top->m_listToolBtn.first()->SharedTextLines(), 2);
+}
+
+void CToolBarItemTest::linesThatChangeAmidTheShowReachTheOthers()
+{
+    QMainWindow window;
+    QList<CToolBarItem*> blocks;
+    for (int i = 0; i < 3; ++i) {
+        blocks.append(MakeBlock(&window, {QStringLiteral("a")}));
+        window.addToolBar(blocks.last());
+        // Each of them is told when it shows; the second asks for more lines then.
+        CToolButton* button = blocks.last()->m_listToolBtn.first();
+        connect(blocks.last(), &QToolBar::visibilityChanged, button, [button, i] {
+            if (i == 1) {
+                button->SetSharedTextLines(4);
+            }
+        });
+    }
+    window.show();
+    for (const CToolBarItem* block : std::as_const(blocks)) {
+        QCOMPARE(block->m_listToolBtn.first()->SharedTextLines(), 4);
+    }
+}
+
+void CToolBarItemTest::showingAgainUnifiesAnew()
+{
+    QMainWindow window;
+    CToolBarItem* one = MakeBlock(&window, {QStringLiteral("a")});
+    CToolBarItem* two = MakeBlock(&window, {QStringLiteral("a")});
+    window.addToolBar(one);
+    window.addToolBar(two);
+    window.show();
+    one->m_listToolBtn.first()->SetSharedTextLines(3);
+    QCOMPARE(two->m_listToolBtn.first()->SharedTextLines(), 1);
+    two->hide();
+    two->show();
+    QCOMPARE(two->m_listToolBtn.first()->SharedTextLines(), 3);
+}
+
+void CToolBarItemTest::hiddenBlocksThatArriveCount()
+{
+    QMainWindow window;
+    auto* pages = new QStackedWidget;
+    window.setCentralWidget(pages);
+    auto* first = new QWidget;
+    CToolBarItem* one = MakeBlock(first, {QStringLiteral("a")});
+    auto* second = new QWidget;
+    CToolBarItem* two = MakeBlock(second, {QStringLiteral("a")});
+    auto* third = new QWidget;
+    CToolBarItem* three = MakeBlock(third, {QStringLiteral("a")});
+    three->m_listToolBtn.first()->SetSharedTextLines(3);
+    pages->addWidget(first);
+    pages->addWidget(second);
+    window.show();
+    QCOMPARE(one->m_listToolBtn.first()->SharedTextLines(), 1);
+    // All of it in one turn of the event loop, and the third page never shows.
+    pages->addWidget(third);
+    pages->setCurrentIndex(1);
+    QVERIFY(!three->isVisible());
+    QCOMPARE(two->m_listToolBtn.first()->SharedTextLines(), 3);
+    QCOMPARE(one->m_listToolBtn.first()->SharedTextLines(), 3);
+}
+
+void CToolBarItemTest::blockFilledAmidTheShowIsUnified()
+{
+    QMainWindow window;
+    CToolBarItem* one = MakeBlock(&window, {QStringLiteral("a")});
+    one->m_listToolBtn.first()->SetSharedTextLines(2);
+    CToolBarItem* two = MakeBlock(&window, {});
+    window.addToolBar(one);
+    window.addToolBar(two);
+    connect(one, &QToolBar::visibilityChanged, two, [two] {
+        if (two->m_listToolBtn.isEmpty()) {
+            two->AddItem(kIcon, QStringLiteral("b"), 0, QString());
+            two->CreateToolBlock(false);
+        }
+    });
+    window.show();
+    QCOMPARE(two->m_listToolBtn.first()->SharedTextLines(), 2);
 }
 
 void CToolBarItemTest::emptyAndLongCaptionsAreHarmless()

@@ -77,6 +77,7 @@ private Q_SLOTS:
     void hoverFlagOutlivesDisabling();
     void foreignEventsPassUntouched();
     void pressOnDisabledButtonIsTold();
+    void disabledButtonMayDieWhenItTells();
     void fillTellsTheState_data();
     void fillTellsTheState();
     void cornersAreRoundWithRadiusFive();
@@ -295,6 +296,23 @@ void CToolButtonTest::pressOnDisabledButtonIsTold()
     Press(button, QEvent::MouseButtonRelease);
     QCOMPARE(told.size(), 1);
     QCOMPARE(clicked.size(), 0);
+}
+
+void CToolButtonTest::disabledButtonMayDieWhenItTells()
+{
+    QWidget window;
+    const QPointer<CToolButton> button = new CToolButton(&window);
+    button->setEnabled(false);
+    connect(button, &CToolButton::SignalBtnDisabledClick, &window, [button] { delete button; });
+    QTest::ignoreMessage(QtDebugMsg, " disabled btn clicked");
+    Press(*button, QEvent::MouseButtonPress);
+    QVERIFY(!button);
+    // One that lives on takes nothing away from the press.
+    CToolButton other(&window);
+    other.setEnabled(false);
+    QEvent press(QEvent::MouseButtonPress);
+    QTest::ignoreMessage(QtDebugMsg, " disabled btn clicked");
+    QVERIFY(!other.eventFilter(&other, &press));
 }
 
 void CToolButtonTest::fillTellsTheState_data()
