@@ -309,7 +309,23 @@ void CToolBarItem::FollowCheckedTool(CToolButton* button)
         setMinimumWidth(m_nBlockWidth);
         SetExtensionHeight(0);
     }
+    Refit();
+}
+
+// While a tool that had no room is being shown, the row may take the room back and hide it. The toolkit then stops half
+// way, with a tool that counts as hidden and is painted all the same, for good; so it is hidden once more, undisturbed.
+void CToolBarItem::Refit()
+{
     adjustSize();
+    layout()->setEnabled(false);
+    const QList<QWidget*> children = findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget* child : children) {
+        if (child->isHidden() && child->isVisible()) {
+            child->show();
+            child->hide();
+        }
+    }
+    layout()->setEnabled(true);
     update();
 }
 

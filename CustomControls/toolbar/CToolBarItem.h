@@ -77,6 +77,7 @@ private:
     void MakeStack(int first, int count);
     void FollowCheckedTool(CToolButton* button);
     void SetExtensionHeight(int height);
+    void Refit();
     static void ReleaseCheckedBlock();
 
     int m_nBlockWidth = 0;

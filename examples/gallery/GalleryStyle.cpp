@@ -16,6 +16,16 @@ QString GalleryStyle::CommandButton(bool primary)
                                     "QPushButton:disabled{color:#b0b0b0;border-color:#e2e2e2;}");
 }
 
+QString GalleryStyle::Menu()
+{
+    return QStringLiteral(
+        "QMenu{background:#ffffff;border:1px solid #c4c4c4;padding:4px;}"
+        "QMenu::item{color:#333333;background:transparent;border-radius:3px;padding:6px 28px 6px 10px;}"
+        "QMenu::item:selected{background:#e4f2eb;color:#188553;}"
+        "QMenu::item:disabled{background:transparent;color:#b0b0b0;}"
+        "QMenu::icon{padding-left:8px;}");
+}
+
 QString GalleryStyle::ScrollBars()
 {
     return QStringLiteral("QScrollBar:vertical{border:none;background:transparent;width:10px;margin:0;}"

@@ -23,6 +23,9 @@ inline constexpr int CardSpacing = 16;
 /** The button of a command: green for the chief one of its place, grey for the others. */
 QString CommandButton(bool primary);
 
+/** A drop-down menu of the ribbon. */
+QString Menu();
+
 /** Scroll bars of the page area and the log pane. */
 QString ScrollBars();
 

@@ -1,6 +1,7 @@
 #include "GalleryWindow.h"
 
 #include "GalleryPage.h"
+#include "GalleryRibbon.h"
 #include "GalleryStyle.h"
 #include "GalleryTitleBar.h"
 #include "LogPane.h"
@@ -69,11 +70,14 @@ GalleryWindow::GalleryWindow(const GalleryOptions& options, QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(titleBar);
+    auto* ribbon = new GalleryRibbon;
+    layout->addWidget(ribbon);
     layout->addLayout(middle, 1);
     layout->addWidget(new StatusLine);
     setCentralWidget(central);
 
     connect(m_pPageList, &QListWidget::currentRowChanged, this, &GalleryWindow::ShowRow);
+    connect(ribbon, &GalleryRibbon::SignalOpenPage, this, &GalleryWindow::OpenPage);
     m_pPageList->setCurrentRow(0);
 
     CVelmarMessageBox::SetMainWindow(this);

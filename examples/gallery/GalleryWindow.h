@@ -8,9 +8,9 @@ class QListWidget;
 class QStackedWidget;
 
 /**
- * The gallery's main window, without a system frame: title bar, page list, page, log pane and status line. It does what
- * the controls expect of a host: it is the main window of the message boxes, comes forward when a control asks for it,
- * and tells every control when the program is about to end.
+ * The gallery's main window, without a system frame: title bar, ribbon, page list, page, log pane and status line. It
+ * does what the controls expect of a host: it is the main window of the message boxes, comes forward when a control
+ * asks for it, and tells every control when the program is about to end.
  */
 class GalleryWindow : public FramelessMainWindow
 {

@@ -46,6 +46,7 @@ bool Tour::Prepare(const QStringList& onlyGroups, QString* problem)
     std::vector<TourGroup> groups;
     groups.push_back(TourPages(this));
     groups.push_back(TourWindows(this));
+    groups.push_back(TourRibbon(this));
     groups.push_back(TourButtons(this));
     groups.push_back(TourParameters(this));
     groups.push_back(TourMenus(this));
@@ -63,6 +64,9 @@ bool Tour::Prepare(const QStringList& onlyGroups, QString* problem)
     for (TourGroup& group : groups) {
         unknown.removeAll(group.strName);
         if (!group.bEveryLanguage && !CorvaneTextHelper::instance()->AppInChineseEnvironment()) {
+        const bool inBothLanguages =
+            group.strName == QLatin1String("pages") || group.strName == QLatin1String("ribbon");
+        if (!inBothLanguages && !CorvaneTextHelper::instance()->AppInChineseEnvironment()) {
             group.strSkipReason = QStringLiteral("its texts are checked in Chinese");
         }
         if (onlyGroups.isEmpty() || onlyGroups.contains(group.strName)) {

@@ -122,6 +122,7 @@ private:
 // The groups, each in a file of its own.
 TourGroup TourPages(Tour* tour);
 TourGroup TourWindows(Tour* tour);
+TourGroup TourRibbon(Tour* tour);
 TourGroup TourButtons(Tour* tour);
 TourGroup TourParameters(Tour* tour);
 TourGroup TourMessageBoxes(Tour* tour);

@@ -331,6 +331,421 @@
     </message>
 </context>
 <context>
+    <name>GalleryRibbon</name>
+    <message>
+        <source>开始</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>文件</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>新建</source>
+        <translation>New</translation>
+    </message>
+    <message>
+        <source>打开</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>另存为</source>
+        <translation>Save as</translation>
+    </message>
+    <message>
+        <source>导出</source>
+        <translation>Export</translation>
+    </message>
+    <message>
+        <source>机床</source>
+        <translation>Machine</translation>
+    </message>
+    <message>
+        <source>连接机床</source>
+        <translation>Connect machine</translation>
+    </message>
+    <message>
+        <source>发送程序</source>
+        <translation>Send program to machine</translation>
+    </message>
+    <message>
+        <source>回原点</source>
+        <translation>Home axes</translation>
+    </message>
+    <message>
+        <source>对刀</source>
+        <translation>Probe</translation>
+    </message>
+    <message>
+        <source>视图</source>
+        <translation>View</translation>
+    </message>
+    <message>
+        <source>选择</source>
+        <translation>Select</translation>
+    </message>
+    <message>
+        <source>测量</source>
+        <translation>Measure</translation>
+    </message>
+    <message>
+        <source>适合窗口</source>
+        <translation>Fit to window</translation>
+    </message>
+    <message>
+        <source>显示网格</source>
+        <translation>Show grid</translation>
+    </message>
+    <message>
+        <source>已新建工程。</source>
+        <translation>A new job.</translation>
+    </message>
+    <message>
+        <source>底座.cam</source>
+        <translation>base.cam</translation>
+    </message>
+    <message>
+        <source>浮雕.cam</source>
+        <translation>relief.cam</translation>
+    </message>
+    <message>
+        <source>齿轮箱盖.cam</source>
+        <translation>gearbox cover.cam</translation>
+    </message>
+    <message>
+        <source>已打开工程“%1”。</source>
+        <translation>Job “%1” opened.</translation>
+    </message>
+    <message>
+        <source>工程已保存。</source>
+        <translation>Job saved.</translation>
+    </message>
+    <message>
+        <source>工程已另存为副本。</source>
+        <translation>Job saved as a copy.</translation>
+    </message>
+    <message>
+        <source>加工程序已导出。</source>
+        <translation>Program exported.</translation>
+    </message>
+    <message>
+        <source>加工程序已发送到机床。</source>
+        <translation>Program sent to the machine.</translation>
+    </message>
+    <message>
+        <source>机床正在回原点。</source>
+        <translation>The machine is homing.</translation>
+    </message>
+    <message>
+        <source>机床正在对刀。</source>
+        <translation>The machine is probing.</translation>
+    </message>
+    <message>
+        <source>视图已适合窗口。</source>
+        <translation>The view fits the window.</translation>
+    </message>
+    <message>
+        <source>网格已切换。</source>
+        <translation>Grid switched.</translation>
+    </message>
+    <message>
+        <source>请先连接机床。</source>
+        <translation>Connect a machine first.</translation>
+    </message>
+    <message>
+        <source>模型</source>
+        <translation>Model</translation>
+    </message>
+    <message>
+        <source>几何</source>
+        <translation>Geometry</translation>
+    </message>
+    <message>
+        <source>导入几何</source>
+        <translation>Import geometry</translation>
+    </message>
+    <message>
+        <source>修复网格</source>
+        <translation>Repair mesh</translation>
+    </message>
+    <message>
+        <source>简化网格</source>
+        <translation>Simplify mesh</translation>
+    </message>
+    <message>
+        <source>毛坯</source>
+        <translation>Stock</translation>
+    </message>
+    <message>
+        <source>方料</source>
+        <translation>Box</translation>
+    </message>
+    <message>
+        <source>圆料</source>
+        <translation>Cylinder</translation>
+    </message>
+    <message>
+        <source>模型毛坯</source>
+        <translation>Model shape</translation>
+    </message>
+    <message>
+        <source>材料</source>
+        <translation>Material</translation>
+    </message>
+    <message>
+        <source>变换</source>
+        <translation>Transform</translation>
+    </message>
+    <message>
+        <source>居中对齐</source>
+        <translation>Move model to the centre</translation>
+    </message>
+    <message>
+        <source>旋转</source>
+        <translation>Rotate</translation>
+    </message>
+    <message>
+        <source>镜像</source>
+        <translation>Mirror</translation>
+    </message>
+    <message>
+        <source>缩放</source>
+        <translation>Scale</translation>
+    </message>
+    <message>
+        <source>几何已导入：三角面 12 480 个。</source>
+        <translation>Geometry imported: 12 480 triangles.</translation>
+    </message>
+    <message>
+        <source>网格已修复。</source>
+        <translation>Mesh repaired.</translation>
+    </message>
+    <message>
+        <source>网格已简化一半。</source>
+        <translation>Mesh simplified by half.</translation>
+    </message>
+    <message>
+        <source>毛坯：方料。</source>
+        <translation>Stock: a box.</translation>
+    </message>
+    <message>
+        <source>毛坯：圆料。</source>
+        <translation>Stock: a cylinder.</translation>
+    </message>
+    <message>
+        <source>毛坯：与模型同形。</source>
+        <translation>Stock: shaped like the model.</translation>
+    </message>
+    <message>
+        <source>木材</source>
+        <translation>Wood</translation>
+    </message>
+    <message>
+        <source>铜</source>
+        <translation>Copper</translation>
+    </message>
+    <message>
+        <source>亚克力</source>
+        <translation>Acrylic</translation>
+    </message>
+    <message>
+        <source>玉石</source>
+        <translation>Jade</translation>
+    </message>
+    <message>
+        <source>材料：%1。</source>
+        <translation>Material: %1.</translation>
+    </message>
+    <message>
+        <source>模型已移到毛坯中央。</source>
+        <translation>The model stands in the middle of the stock.</translation>
+    </message>
+    <message>
+        <source>模型已旋转 90 度。</source>
+        <translation>Model rotated by 90 degrees.</translation>
+    </message>
+    <message>
+        <source>模型已镜像。</source>
+        <translation>Model mirrored.</translation>
+    </message>
+    <message>
+        <source>模型已放大一倍。</source>
+        <translation>Model doubled in size.</translation>
+    </message>
+    <message>
+        <source>加工</source>
+        <translation>Machining</translation>
+    </message>
+    <message>
+        <source>策略</source>
+        <translation>Strategy</translation>
+    </message>
+    <message>
+        <source>粗加工</source>
+        <translation>Rough</translation>
+    </message>
+    <message>
+        <source>半精加工</source>
+        <translation>Semi-finish</translation>
+    </message>
+    <message>
+        <source>精加工</source>
+        <translation>Finish</translation>
+    </message>
+    <message>
+        <source>螺纹</source>
+        <translation>Thread</translation>
+    </message>
+    <message>
+        <source>纹理</source>
+        <translation>Texture</translation>
+    </message>
+    <message>
+        <source>刀具</source>
+        <translation>Tools</translation>
+    </message>
+    <message>
+        <source>刀具库</source>
+        <translation>Tool library</translation>
+    </message>
+    <message>
+        <source>添加刀具</source>
+        <translation>Add tool</translation>
+    </message>
+    <message>
+        <source>刀具长度</source>
+        <translation>Tool length</translation>
+    </message>
+    <message>
+        <source>刀具补偿</source>
+        <translation>Tool offset</translation>
+    </message>
+    <message>
+        <source>刀路</source>
+        <translation>Toolpath</translation>
+    </message>
+    <message>
+        <source>生成刀路</source>
+        <translation>Generate toolpath</translation>
+    </message>
+    <message>
+        <source>仿真</source>
+        <translation>Simulate</translation>
+    </message>
+    <message>
+        <source>碰撞检查</source>
+        <translation>Check collisions</translation>
+    </message>
+    <message>
+        <source>刀具库：6 把刀具。</source>
+        <translation>Tool library: 6 tools.</translation>
+    </message>
+    <message>
+        <source>已添加一把刀具。</source>
+        <translation>A tool was added.</translation>
+    </message>
+    <message>
+        <source>刀具长度：42.0 毫米。</source>
+        <translation>Tool length: 42.0 mm.</translation>
+    </message>
+    <message>
+        <source>刀具补偿：0.02 毫米。</source>
+        <translation>Tool offset: 0.02 mm.</translation>
+    </message>
+    <message>
+        <source>仿真完成，用时 1 小时 12 分。</source>
+        <translation>Simulated; it takes 1 hour 12 minutes.</translation>
+    </message>
+    <message>
+        <source>没有碰撞。</source>
+        <translation>No collisions.</translation>
+    </message>
+    <message>
+        <source>请先生成刀路。</source>
+        <translation>Generate the toolpath first.</translation>
+    </message>
+    <message>
+        <source>刀路已生成：3 道工序。</source>
+        <translation>Toolpath generated: 3 operations.</translation>
+    </message>
+    <message>
+        <source>帮助</source>
+        <translation>Help</translation>
+    </message>
+    <message>
+        <source>控件</source>
+        <translation>Controls</translation>
+    </message>
+    <message>
+        <source>主题按钮</source>
+        <translation>Themed buttons</translation>
+    </message>
+    <message>
+        <source>消息框</source>
+        <translation>Message boxes</translation>
+    </message>
+    <message>
+        <source>进度对话框</source>
+        <translation>Progress dialog</translation>
+    </message>
+    <message>
+        <source>日志</source>
+        <translation>Log</translation>
+    </message>
+    <message>
+        <source>写入备注</source>
+        <translation>Add a note</translation>
+    </message>
+    <message>
+        <source>日志位置</source>
+        <translation>Where is it</translation>
+    </message>
+    <message>
+        <source>关于</source>
+        <translation>About</translation>
+    </message>
+    <message>
+        <source>提问</source>
+        <translation>Ask</translation>
+    </message>
+    <message>
+        <source>备注：夹具已换。</source>
+        <translation>Note: another fixture.</translation>
+    </message>
+    <message>
+        <source>日志文件：%1</source>
+        <translation>Log file: %1</translation>
+    </message>
+    <message>
+        <source>毛坯已夹紧吗？</source>
+        <translation>Is the stock clamped?</translation>
+    </message>
+    <message>
+        <source>回答：是。</source>
+        <translation>Answer: yes.</translation>
+    </message>
+    <message>
+        <source>回答：否。</source>
+        <translation>Answer: no.</translation>
+    </message>
+    <message>
+        <source>控件陈列室 %1</source>
+        <translation>Gallery of controls %1</translation>
+    </message>
+    <message>
+        <source>当前工具：%1</source>
+        <translation>Current tool: %1</translation>
+    </message>
+    <message>
+        <source>没有选中的工具。</source>
+        <translation>No tool is checked.</translation>
+    </message>
+</context>
+<context>
     <name>GalleryTitleBar</name>
     <message>
         <source>最小化</source>

@@ -103,6 +103,7 @@ private Q_SLOTS:
     void uncheckingAnotherToolChangesNothing();
     void clearingLeavesTheBlockBehind();
     void firstCheckRecordsEvenAnUncheckedButton();
+    void toolsWithoutRoomStayHiddenWhateverIsChecked();
     void deletedButtonIsForgotten();
     void deletedBlockIsForgotten();
     void blockDeletedAfterClearingIsForgotten();
@@ -915,6 +916,36 @@ void CToolBarItemTest::firstCheckRecordsEvenAnUncheckedButton()
     QVERIFY(!button->isChecked());
     QCOMPARE(CToolBar::m_pBtnChecked, button);
     QCOMPARE(block->minimumWidth(), block->m_nBlockWidth);
+}
+
+void CToolBarItemTest::toolsWithoutRoomStayHiddenWhateverIsChecked()
+{
+    QMainWindow window;
+    QList<CToolBarItem*> blocks;
+    for (int i = 0; i < 3; ++i) {
+        blocks.append(MakeBlock(&window, {QStringLiteral("一"), QStringLiteral("二")}));
+        blocks.last()->AddItemVertical({kIcon}, {QString(12, QLatin1Char('m'))}, {0}, {QString()});
+        blocks.last()->CreateToolBlock(false);
+        window.addToolBar(blocks.last());
+    }
+    window.resize(2000, 300);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    CToolButton* tool = blocks.last()->m_listToolBtn.first();
+    const QWidget* stack = blocks.last()->m_listToolBtn.last()->parentWidget();
+    QTRY_VERIFY(stack->isVisible());
+    // One pixel less than the last stack needs, and the overflow button has to go somewhere as well.
+    window.resize(stack->mapTo(&window, QPoint(stack->width() - 1, 0)).x(), 300);
+    QTRY_VERIFY(!stack->isVisible());
+    for (int i = 0; i < 4; ++i) {
+        tool->click();
+        QCoreApplication::processEvents();
+        QVERIFY(stack->mapTo(&window, QPoint(stack->width(), 0)).x() <= window.width() || !stack->isVisible());
+        QCOMPARE(stack->isVisible(), !stack->isHidden());
+    }
+    QVERIFY(!CToolBar::m_pBtnChecked);
+    window.resize(2000, 300);
+    QTRY_VERIFY(stack->isVisible());
 }
 
 void CToolBarItemTest::deletedButtonIsForgotten()
