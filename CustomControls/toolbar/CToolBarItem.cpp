@@ -312,20 +312,19 @@ void CToolBarItem::FollowCheckedTool(CToolButton* button)
     Refit();
 }
 
-// While a tool that had no room is being shown, the row may take the room back and hide it. The toolkit then stops half
-// way, with a tool that counts as hidden and is painted all the same, for good; so it is hidden once more, undisturbed.
+// The bar first takes all the room that it wants, and the row may take some of it back. A tool that the toolkit hides
+// while it is still showing it stops half way: it counts as hidden and is painted all the same, for good. So the tools
+// wait until the row has settled.
 void CToolBarItem::Refit()
 {
-    adjustSize();
     layout()->setEnabled(false);
-    const QList<QWidget*> children = findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-    for (QWidget* child : children) {
-        if (child->isHidden() && child->isVisible()) {
-            child->show();
-            child->hide();
-        }
+    adjustSize();
+    if (QLayout* row = parentWidget() ? parentWidget()->layout() : nullptr) {
+        row->activate();
     }
     layout()->setEnabled(true);
+    layout()->invalidate();
+    layout()->activate();
     update();
 }
 

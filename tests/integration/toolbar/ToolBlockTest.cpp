@@ -169,7 +169,14 @@ void ToolBlockTest::checkingHoldsTheBlockOpen()
     QTRY_COMPARE(CToolBar::m_pBtnChecked, second.first());
     QCOMPARE(one->minimumWidth(), 0);
     QVERIFY(two->minimumWidth() > 0);
-    QTRY_VERIFY(second.last()->isVisible());
+    QTRY_VERIFY(two->width() >= two->minimumWidth());
+    QVERIFY(second.first()->isVisible());
+    // Captions of two characters are narrower than their tools, so not all of them have room in that width; none is
+    // left half shown.
+    for (const CToolButton* button : first + second) {
+        QTRY_COMPARE(button->isVisible(), !button->isHidden());
+        QVERIFY(!button->isVisible() || button->geometry().right() < button->parentWidget()->width());
+    }
 
     RealInput::Click(Middle(second.first()));
     QTRY_VERIFY(!CToolBar::m_pBtnChecked);
