@@ -64,9 +64,6 @@ bool Tour::Prepare(const QStringList& onlyGroups, QString* problem)
     for (TourGroup& group : groups) {
         unknown.removeAll(group.strName);
         if (!group.bEveryLanguage && !CorvaneTextHelper::instance()->AppInChineseEnvironment()) {
-        const bool inBothLanguages =
-            group.strName == QLatin1String("pages") || group.strName == QLatin1String("ribbon");
-        if (!inBothLanguages && !CorvaneTextHelper::instance()->AppInChineseEnvironment()) {
             group.strSkipReason = QStringLiteral("its texts are checked in Chinese");
         }
         if (onlyGroups.isEmpty() || onlyGroups.contains(group.strName)) {

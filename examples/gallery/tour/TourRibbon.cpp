@@ -133,6 +133,7 @@ void Narrow(Tour* tour)
 TourGroup TourRibbon(Tour* tour)
 {
     TourGroup group{QStringLiteral("ribbon"), QString(), {}};
+    group.bEveryLanguage = true;
     auto& steps = group.steps;
     steps.push_back(OpenTab(QStringLiteral("the ribbon is the head of the wide window"), 0, [tour] {
         return Equal(QStringLiteral("the width"), QString::number(tour->Window()->width()),
