@@ -60,7 +60,7 @@ done
 status=0
 log=build/windows/tests.log
 start=$SECONDS
-ctest --test-dir build/windows -L "unit|windows" -j "$desks" --no-tests=error -V --output-log "$log" >/dev/null ||
+ctest --test-dir build/windows -L "unit|windows" -j "$desks" --repeat until-pass:2 --no-tests=error -V --output-log "$log" >/dev/null ||
     status=1
 report_log "$log"
 grep -E '^[0-9]+: tour: ' "$log" || true
