@@ -32,8 +32,6 @@ if [ -n "${WINE_DESKS:-}" ]; then
     export WINEPREFIX=${desk}wine
     DISPLAY=:$(cat "${desk}display")
     export DISPLAY
-    # Out of the way: a window that appears below the pointer is hovered from the start.
-    timeout 10 xdotool mousemove 1599 1199 9>&-
 fi
 
 case $program in
