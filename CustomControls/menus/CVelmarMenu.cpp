@@ -245,7 +245,6 @@ void CVelmarMenu::AddListWidgetButton(const QString& text)
         LayOutLater();
     }
     AddButton(button, m_pScrollLayout, kListRowStretch);
-    FitScrollWidget();
     m_pScrollArea->setWidget(m_pScrollWidget);
     UpdateMenuSize();
 }
@@ -502,9 +501,12 @@ void CVelmarMenu::AddButton(QPushButton* button, QVBoxLayout* layout, int stretc
 {
     connect(button, &QObject::destroyed, this, [this, button] { ButtonGone(button); });
     layout->addWidget(button, stretch);
-    ShowIfOpen(button);
     m_listButtons.append(button);
     ++m_iRowCount;
+    if (layout == m_pScrollLayout) {
+        FitScrollWidget(); // before it shows, which is when the toolkit looks whether it lies under the mouse
+    }
+    ShowIfOpen(button);
 }
 
 void CVelmarMenu::BuildScrollArea()

@@ -46,6 +46,7 @@ private Q_SLOTS:
     void clickOnARowChoosesIt();
     void draggingTheScrollBarKeepsTheListOpen();
     void rowUnderTheMouseIsMarked();
+    void rowThatComesUnderTheMouseIsToldSo();
     void entryAddedToTheOpenListCanBeChosen();
     void boxesOpenOneAfterTheOther();
     void clickElsewhereClosesTheList();
@@ -151,6 +152,20 @@ void ComboBoxInputTest::rowUnderTheMouseIsMarked()
     RealInput::MoveTo(CentreOf(m_pLongList->MenuButton(2)));
     QTRY_COMPARE(color(2), QColor("#0071bc"));
     QCOMPARE(color(1), QColor("#212024"));
+}
+
+void ComboBoxInputTest::rowThatComesUnderTheMouseIsToldSo()
+{
+    auto* list = new CVelmarMenu(m_pWindow);
+    list->SetMenuStyle(MenuStyleDark);
+    list->AddListWidgetButton(QStringLiteral("first"));
+    list->move(20, 300);
+    list->show();
+    RealInput::MoveTo(list->mapToGlobal(QPoint(60, 4 + 24 + 12)));
+    list->AddListWidgetButton(QStringLiteral("second"));
+    QPushButton* second = list->MenuButton(1);
+    QTRY_VERIFY(second->underMouse());
+    QVERIFY(!list->MenuButton(0)->underMouse());
 }
 
 void ComboBoxInputTest::entryAddedToTheOpenListCanBeChosen()
