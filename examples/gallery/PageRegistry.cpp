@@ -1,19 +1,18 @@
 #include "PageRegistry.h"
 
 #include "pages/ButtonsPage.h"
+#include "pages/CombosPage.h"
 #include "pages/FramelessWindowsPage.h"
 #include "pages/MachinePage.h"
 #include "pages/MenusPage.h"
 #include "pages/MessageBoxesPage.h"
 #include "pages/ParametersPage.h"
 #include "pages/ProgressPage.h"
+#include "pages/TextPage.h"
 #include "pages/TipsPage.h"
 #include "pages/ToastsPage.h"
 #include "pages/ToolTablePage.h"
 #include "pages/WatermarkPage.h"
-
-#include "pages/CombosPage.h"
-#include "pages/TextPage.h"
 
 #include <QCoreApplication>
 
