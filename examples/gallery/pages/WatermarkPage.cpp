@@ -115,7 +115,7 @@ void WatermarkPage::OpenPreview()
         m_pPreview = new PreviewWindow(window());
         m_pPreview->setWindowTitle(tr("加工预览（内部版本）"));
         m_pPreview->resize(PreviewSize);
-        m_pPreview->move(window()->geometry().topLeft() + QPoint(260, 330));
+        m_pPreview->move(window()->geometry().topLeft() + QPoint(260, 442));
     }
     m_pPreview->show();
     m_pPreview->raise();
