@@ -7,9 +7,11 @@
 #include <CustomControls/feedback/CVelmarAnimation.h>
 #include <CustomControls/feedback/CWatermarkWidget.h>
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QWindow>
 
 namespace {
 constexpr int SpindleFrames = 12;
@@ -31,6 +33,9 @@ public:
         setAttribute(Qt::WA_DeleteOnClose);
         m_pWatermark->setObjectName(QStringLiteral("watermark"));
         m_pWatermark->setAttribute(Qt::WA_TransparentForMouseEvents);
+        // The window that gets the focus comes to the front, and on X11 it comes before the mark, which is a window
+        // too.
+        connect(qApp, &QGuiApplication::focusWindowChanged, this, [this] { m_pWatermark->AdjustWatermark(false); });
     }
 
 protected:

@@ -6,6 +6,7 @@
 #include <CustomControls/feedback/ToastWidget.h>
 
 #include <QApplication>
+#include <QImage>
 #include <QLabel>
 #include <QScreen>
 
@@ -80,13 +81,29 @@ QLabel* Mark()
     return watermark ? watermark->findChild<QLabel*>() : nullptr;
 }
 
+/** The share of the preview's pixels on the screen that have the mark's reddish ink; the view itself has hardly any. */
+double InkShare(QWidget* preview)
+{
+    const QRect area(preview->mapToGlobal(QPoint(0, 0)), preview->size());
+    const QImage shown = preview->screen()->grabWindow(0, area.x(), area.y(), area.width(), area.height()).toImage();
+    int ink = 0;
+    for (int y = 0; y < shown.height(); ++y) {
+        for (int x = 0; x < shown.width(); ++x) {
+            const QColor color = shown.pixelColor(x, y);
+            ink += color.red() > color.green() + 25 && color.red() > color.blue() + 25;
+        }
+    }
+    return shown.isNull() ? 0.0 : double(ink) / (shown.width() * shown.height());
+}
+
 QString MarkCovers()
 {
     QWidget* preview = Find(QStringLiteral("previewWindow"));
     return True(preview, QStringLiteral("there is no preview")) +
            True(Mark() && Mark()->isVisible(), QStringLiteral("there is no mark")) +
            True(preview && Mark() && Mark()->geometry() == QRect(preview->mapToGlobal(QPoint(0, 0)), preview->size()),
-                QStringLiteral("the mark does not cover the preview"));
+                QStringLiteral("the mark does not cover the preview")) +
+           True(preview && InkShare(preview) > 0.02, QStringLiteral("the mark is not seen"));
 }
 } // namespace
 
