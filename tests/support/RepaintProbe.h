@@ -1,5 +1,7 @@
 #pragma once
 
+#include <tests/support/TestEnvironment.h>
+
 #include <QEvent>
 #include <QTest>
 #include <QWidget>
@@ -23,6 +25,7 @@ public:
         m_window.resize(widget->width() + 60, widget->height() + 20);
         widget->installEventFilter(this);
         m_pNeighbour->installEventFilter(this);
+        TestEnvironment::MoveCursorAway();
         m_window.show();
         if (!QTest::qWaitForWindowExposed(&m_window)) {
             qFatal("the window does not show");

@@ -6,12 +6,14 @@
 #include <CorvaneBase/NetworkConfigurator.h>
 
 #include <QApplication>
+#include <QCursor>
 #include <QFileInfo>
 #include <QFont>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLocale>
+#include <QScreen>
 #include <QStandardPaths>
 #include <QStyleFactory>
 #include <QTemporaryFile>
@@ -68,6 +70,11 @@ void TestEnvironment::PrepareScreens(const QList<Screen>& screens)
     file.write(QJsonDocument(QJsonObject{{QStringLiteral("screens"), list}}).toJson());
     file.close();
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QFileInfo(file).fileName().toUtf8());
+}
+
+void TestEnvironment::MoveCursorAway()
+{
+    QCursor::setPos(QGuiApplication::primaryScreen()->geometry().bottomRight() - QPoint(5, 5));
 }
 
 TestEnvironment::TestEnvironment()

@@ -25,6 +25,9 @@ public:
     };
     static void PrepareScreens(const QList<Screen>& screens);
 
+    /** Puts the cursor into a corner of the screen: a window that shows below it is hovered from the start. */
+    static void MoveCursorAway();
+
     /** To be made after the application object. Chinese is the language until a test sets another. */
     TestEnvironment();
     ~TestEnvironment();

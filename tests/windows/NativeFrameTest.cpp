@@ -90,6 +90,7 @@ private Q_SLOTS:
     void aPressOnTheTitleBarIsTold();
     void aPressOnAButtonIsNotTold();
     void aMaximisedWindowHasMarginsOfFive();
+    void aRestoredWindowHasItsOldPlace();
     void movingIsToldByTheMainWindowAlone();
     void crossingScreensResizesTwiceAndKeepsTheFlagPerClass();
     void activationAndKeysAreLeftToTheToolkit_data();
@@ -264,6 +265,25 @@ void NativeFrameTest::aMaximisedWindowHasMarginsOfFive()
     QTRY_VERIFY(!IsZoomed(HandleOf(window)));
     Send(window, WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&info));
     QCOMPARE(window.contentsMargins(), QMargins(0, 0, 0, 0));
+}
+
+void NativeFrameTest::aRestoredWindowHasItsOldPlace()
+{
+    FramelessMainWindow window;
+    FramelessDialog dialog;
+    for (QWidget* each : {static_cast<QWidget*>(&window), static_cast<QWidget*>(&dialog)}) {
+        QVERIFY(ShowInPlace(*each));
+        const QRect place = each->geometry();
+        for (int time = 0; time < 2; ++time) {
+            each->showMaximized();
+            QTRY_VERIFY(IsZoomed(HandleOf(*each)));
+            QTRY_VERIFY(each->width() > place.width());
+            each->showNormal();
+            QTRY_VERIFY(!IsZoomed(HandleOf(*each)));
+            QTRY_COMPARE(each->geometry(), place);
+        }
+        each->hide();
+    }
 }
 
 void NativeFrameTest::movingIsToldByTheMainWindowAlone()

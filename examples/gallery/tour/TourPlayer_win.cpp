@@ -15,6 +15,8 @@
 namespace {
 // What answers an event gets its turn before the next one.
 constexpr int GapMs = 15;
+// After a second it is pressed wherever the pointer is, and the step tells what is missing.
+constexpr int MostTries = 60;
 
 void SendMouse(DWORD flags, DWORD data = 0)
 {
@@ -34,6 +36,30 @@ void SendKey(WORD key, WORD unicode, DWORD flags)
     input.ki.dwFlags = flags;
     SendInput(1, &input, sizeof(input));
 }
+
+/** Where the pointer was last sent to: a point of a window's client area. */
+struct Target
+{
+    HWND window = nullptr;
+    POINT point = {};
+
+    void Approach() const
+    {
+        POINT place = point;
+        ClientToScreen(window, &place);
+        SetCursorPos(place.x, place.y);
+    }
+    /** A window that is about to come up may still lie below the one it covers, or be on its way. */
+    bool IsReached() const
+    {
+        POINT place = point;
+        ClientToScreen(window, &place);
+        POINT cursor = {};
+        GetCursorPos(&cursor);
+        return cursor.x == place.x && cursor.y == place.y &&
+               GetAncestor(WindowFromPoint(cursor), GA_ROOT) == GetAncestor(window, GA_ROOT);
+    }
+};
 
 void SendButton(int button, bool down)
 {
@@ -96,6 +122,7 @@ struct TourPlayer::Road
     {
         int iDelayMs = 0;
         std::function<void()> play;
+        Target target = {}; ///< played once the pointer is there; no window: at once
     };
 
     /** Appends the beats of the words; the first that is not understood, or nothing. */
@@ -105,11 +132,13 @@ struct TourPlayer::Road
 
     std::deque<Beat> beats;
     QTimer timer;
+    int iTries = 0; ///< of the first beat
 };
 
 QString TourPlayer::Road::Append(const QStringList& words)
 {
     int at = 0;
+    Target target;
     const auto next = [&words, &at] { return words.value(at++); };
     // The number that follows one of the options of the command, or the default.
     const auto option = [&](const QString& name, int otherwise) {
@@ -130,17 +159,15 @@ QString TourPlayer::Road::Append(const QStringList& words)
             const HWND window = reinterpret_cast<HWND>(quintptr(next().toULongLong()));
             const int x = next().toInt();
             const int y = next().toInt();
-            beats.push_back({GapMs, [window, x, y] {
-                                 POINT point = {x, y};
-                                 ClientToScreen(window, &point);
-                                 SetCursorPos(point.x, point.y);
-                             }});
+            target = {window, {x, y}};
+            beats.push_back({GapMs, [target] { target.Approach(); }});
         } else if (word == QLatin1String("mousemove_relative")) {
             if (next() != QLatin1String("--")) {
                 return word;
             }
             const int x = next().toInt();
             const int y = next().toInt();
+            target = {};
             beats.push_back({GapMs, [x, y] {
                                  POINT point = {};
                                  GetCursorPos(&point);
@@ -151,13 +178,15 @@ QString TourPlayer::Road::Append(const QStringList& words)
             const int delay = option(QStringLiteral("--delay"), GapMs);
             const int button = next().toInt();
             for (int time = 0; time < times; ++time) {
-                beats.push_back({time ? delay : GapMs, [button] { SendButton(button, true); }});
+                beats.push_back({time ? delay : GapMs, [button] { SendButton(button, true); }, target});
+                target = {};
                 beats.push_back({GapMs, [button] { SendButton(button, false); }});
             }
         } else if (word == QLatin1String("mousedown") || word == QLatin1String("mouseup")) {
             const bool down = word == QLatin1String("mousedown");
             const int button = next().toInt();
-            beats.push_back({GapMs, [button, down] { SendButton(button, down); }});
+            beats.push_back({GapMs, [button, down] { SendButton(button, down); }, target});
+            target = {};
         } else if (word == QLatin1String("key")) {
             const QString name = next();
             if (!AppendKey(name)) {
@@ -225,6 +254,13 @@ TourPlayer::TourPlayer(QObject* parent)
     m_pRoad->timer.setSingleShot(true);
     connect(&m_pRoad->timer, &QTimer::timeout, this, [this] {
         const Road::Beat beat = m_pRoad->beats.front();
+        if (beat.target.window && m_pRoad->iTries < MostTries && !beat.target.IsReached()) {
+            ++m_pRoad->iTries;
+            beat.target.Approach();
+            m_pRoad->timer.start(GapMs);
+            return;
+        }
+        m_pRoad->iTries = 0;
         m_pRoad->beats.pop_front();
         // Before it is played: what it sets off may run an event loop of its own.
         if (!m_pRoad->beats.empty()) {

@@ -50,8 +50,15 @@ public:
         if (!QTest::qWaitForWindowExposed(this)) {
             qFatal("the window does not show");
         }
-        QTest::mouseMove(windowHandle(), outside);
+        MovePointer(outside);
         QCoreApplication::processEvents();
+    }
+
+    // The real pointer goes along: where there is one, what it enters and leaves is told as well.
+    void MovePointer(const QPoint& place) const
+    {
+        QCursor::setPos(mapToGlobal(place));
+        QTest::mouseMove(windowHandle(), place);
     }
 
     void Enter() const
@@ -851,12 +858,12 @@ void CVelmarButtonTest::hoverEntersAndLeaves()
 {
     Stage stage(ButtonTypeIconTextChoose);
     Dress(*stage.button);
-    QTest::mouseMove(stage.windowHandle(), stage.button->geometry().center());
+    stage.MovePointer(stage.button->geometry().center());
     QTRY_COMPARE(stage.button->m_iState, 2);
     QVERIFY(stage.button->m_bHovered);
     QCOMPARE(stage.TextSheet(), QStringLiteral("color:#000003;background:transparent;"));
     QCOMPARE(Picture(*stage.button).pixelColor(1, 1), QColor(194, 211, 231));
-    QTest::mouseMove(stage.windowHandle(), stage.outside);
+    stage.MovePointer(stage.outside);
     QTRY_COMPARE(stage.button->m_iState, 0);
     QVERIFY(!stage.button->m_bHovered);
     QCOMPARE(stage.TextSheet(), QStringLiteral("color:#000001;background:transparent;"));
@@ -976,7 +983,7 @@ void CVelmarButtonTest::pressAndReleaseInsideClicks()
 {
     Stage stage(ButtonTypeIconText);
     const QSignalSpy spy(stage.button, &CVelmarButton::SignalClicked);
-    QTest::mouseMove(stage.windowHandle(), stage.button->geometry().center());
+    stage.MovePointer(stage.button->geometry().center());
     QTRY_VERIFY(stage.button->m_bHovered);
     QTest::mousePress(stage.button, Qt::LeftButton, {}, stage.inside);
     QCOMPARE(stage.button->m_iState, 1);
@@ -1077,7 +1084,7 @@ void CVelmarButtonTest::releaseTravelsToTheParent()
 void CVelmarButtonTest::buttonMayBeDeletedByItsClick()
 {
     Stage stage(ButtonTypeIconText);
-    QTest::mouseMove(stage.windowHandle(), stage.button->geometry().center());
+    stage.MovePointer(stage.button->geometry().center());
     const QPointer<CVelmarButton> watched(stage.button);
     connect(stage.button, &CVelmarButton::SignalClicked, &stage, [&stage] { delete stage.button; });
     QTest::mouseClick(stage.windowHandle(), Qt::LeftButton, {}, QPoint(60, 40));

@@ -3,6 +3,8 @@
 #include <CustomControls/menus/CCustomMenu.h>
 #include <CustomControls/menus/CCustomMenuItem.h>
 
+#include <tests/support/TestEnvironment.h>
+
 #include <QClipboard>
 #include <QCursor>
 #include <QGuiApplication>
@@ -22,7 +24,7 @@ struct TextViewPage
 {
     TextViewPage()
     {
-        QCursor::setPos(790, 590);
+        TestEnvironment::MoveCursorAway();
         QGuiApplication::clipboard()->clear();
         page->resize(500, 400);
         view->setGeometry(50, 60, 300, 200);
@@ -93,7 +95,7 @@ struct TextViewPage
         QFocusEvent event(QEvent::FocusOut);
         QVERIFY(view->eventFilter(view, &event));
         QVERIFY(Menu()->isVisible());
-        QCursor::setPos(790, 590);
+        TestEnvironment::MoveCursorAway();
         QVERIFY(!view->eventFilter(view, &event));
         QVERIFY(!Menu()->isVisible());
         QVERIFY(!view->eventFilter(view, &event));

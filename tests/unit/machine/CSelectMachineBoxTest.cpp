@@ -180,7 +180,7 @@ void CSelectMachineBoxTest::init()
 {
     QTest::failOnWarning(QRegularExpression(QStringLiteral("^(?!This plugin does not support)")));
     CorvaneTextHelper::instance()->SetAppInChineseEnvironment(true);
-    QCursor::setPos(790, 590);
+    TestEnvironment::MoveCursorAway();
 }
 
 void CSelectMachineBoxTest::cleanup()

@@ -114,7 +114,7 @@ void CCustomMenuItemTest::initTestCase()
 
 void CCustomMenuItemTest::init()
 {
-    QCursor::setPos(790, 590);
+    TestEnvironment::MoveCursorAway();
 }
 
 void CCustomMenuItemTest::formHasTheGivenMeasures()

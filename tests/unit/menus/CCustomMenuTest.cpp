@@ -122,7 +122,7 @@ private:
 
 void CCustomMenuTest::init()
 {
-    QCursor::setPos(790, 590);
+    TestEnvironment::MoveCursorAway();
     m_window = std::make_unique<QWidget>();
     m_window->resize(500, 400);
 }

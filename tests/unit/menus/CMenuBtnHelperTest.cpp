@@ -57,7 +57,7 @@ public:
             m_menus[i]->hide();
             m_helper->RegisterMenuBtn(m_buttons[i], m_menus[i]);
         }
-        QCursor::setPos(790, 590);
+        TestEnvironment::MoveCursorAway();
         move(0, 0);
         show();
         activateWindow();
