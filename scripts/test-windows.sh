@@ -32,7 +32,7 @@ close_desks() {
 open_desk() { # folder
     mkdir -p "$1/wine"
     : >"$1/display"
-    Xvfb -displayfd 5 -screen 0 1600x1200x24 -nolisten tcp 5>"$1/display" >/dev/null 2>&1 </dev/null &
+    Xvfb -displayfd 5 -screen 0 1600x1200x24 -nolisten tcp -noreset 5>"$1/display" >/dev/null 2>&1 </dev/null &
     displays+=($!)
     for _ in $(seq 200); do [ -s "$1/display" ] && break; sleep 0.05; done
     [ -s "$1/display" ] || { say "No virtual display starts"; return 1; }
@@ -43,6 +43,8 @@ open_desk() { # folder
         export WINEPREFIX=$1/wine
         DISPLAY=:$(cat "$1/display")
         export DISPLAY
+        # Room for a task bar: the toolkit takes a maximised window that covers the whole screen for full screen.
+        timeout 20 xprop -root -f _NET_WORKAREA 32c -set _NET_WORKAREA "0, 0, 1600, 1160"
         timeout 20 wineserver -p60
         timeout 120 wineboot --init
         timeout 30 wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f
