@@ -6,6 +6,7 @@
 
 #include <CorvaneBase/CorvaneFonts.h>
 
+#include <QAbstractItemView>
 #include <QCursor>
 #include <QEvent>
 #include <QFontMetrics>
@@ -80,6 +81,7 @@ CComboBox::CComboBox(QWidget* parent)
     , m_pMenu(new CVelmarMenu(parent ? ListHostOf(parent) : this))
 {
     ui->setupUi(this);
+    SetToolkitPopUpApart();
     // The list goes with its window, which may end before the box.
     connect(m_pMenu, &QObject::destroyed, this, [this] { m_pMenu = nullptr; });
     m_pMenu->SetMenuStyle(MenuStyleDark);
@@ -327,6 +329,15 @@ void CComboBox::SlotChangeItem()
     if (m_pMenu) {
         m_pMenu->hide();
     }
+}
+
+// The base class needs its pop-up, though it never opens. As a child of the box it would follow each change of the
+// box's look, and its view would lay out all entries anew every time the mouse comes or goes.
+void CComboBox::SetToolkitPopUpApart()
+{
+    QWidget* popUp = view()->window();
+    popUp->setParent(nullptr, popUp->windowFlags());
+    connect(this, &QObject::destroyed, popUp, [popUp] { delete popUp; });
 }
 
 void CComboBox::AddListItem(const QString& text)

@@ -86,6 +86,7 @@ private Q_SLOTS:
     void SlotChangeItem();
 
 private:
+    void SetToolkitPopUpApart();
     void AddListItem(const QString& text);
     void AppendEntry(const QString& text);
     void SetListWidth(int width);

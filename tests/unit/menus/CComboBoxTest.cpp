@@ -74,6 +74,22 @@ QStringList TextsOf(const CComboBox& box)
     return texts;
 }
 
+// How often something that it watches is told of another style.
+class StyleChangeCounter : public QObject
+{
+public:
+    int Count() const { return m_iCount; }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        m_iCount += event->type() == QEvent::StyleChange ? 1 : 0;
+        return false;
+    }
+
+private:
+    int m_iCount = 0;
+};
+
 } // namespace
 
 // A window with a panel and a box in it; all of them may be deleted early.
@@ -140,6 +156,8 @@ private Q_SLOTS:
     void otherButtonsDoNothing();
     void theToolkitsPopUpNeverOpens_data();
     void theToolkitsPopUpNeverOpens();
+    void changeOfTheBoxsLookLeavesTheToolkitsPopUpAlone();
+    void theToolkitsPopUpGoesWithTheBox();
     void clickOnARowChoosesIt();
     void senderThatIsNoRowChoosesNothing();
     void openingTheSecondBoxClosesTheFirst();
@@ -594,6 +612,39 @@ void CComboBoxTest::theToolkitsPopUpNeverOpens()
     QCOMPARE(QApplication::activePopupWidget(), nullptr);
     QVERIFY(stage.Menu()->isVisible());
     stage.Menu()->hide();
+}
+
+void CComboBoxTest::changeOfTheBoxsLookLeavesTheToolkitsPopUpAlone()
+{
+    Stage stage;
+    stage.Add(5);
+    stage.window->show();
+    StyleChangeCounter styleChanges;
+    stage.box->view()->installEventFilter(&styleChanges);
+    stage.box->view()->window()->installEventFilter(&styleChanges);
+
+    stage.box->showPopup();
+    QCOMPARE(stage.box->styleSheet(), kOpen);
+    stage.box->hidePopup();
+    QCOMPARE(stage.box->styleSheet(), kRest);
+    Send(stage.box, QEvent::Enter);
+    QCOMPARE(stage.box->styleSheet(), kEnter);
+    Send(stage.box, QEvent::Leave);
+    QCOMPARE(stage.box->styleSheet(), kRest);
+    QCOMPARE(styleChanges.Count(), 0);
+
+    // Whatever asks the box for its view still finds the entries and the box's font.
+    QCOMPARE(stage.box->view()->model(), stage.box->model());
+    QCOMPARE(stage.box->view()->font(), stage.box->font());
+}
+
+void CComboBoxTest::theToolkitsPopUpGoesWithTheBox()
+{
+    Stage stage;
+    const QPointer<QWidget> popUp = stage.box->view()->window();
+    QVERIFY(popUp != stage.window);
+    delete stage.box;
+    QVERIFY(popUp.isNull());
 }
 
 void CComboBoxTest::clickOnARowChoosesIt()
