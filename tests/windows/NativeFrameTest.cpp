@@ -44,11 +44,27 @@ public:
     QPushButton button;
 };
 
-void PutCursor(const QWidget& window, const QPoint& point)
+/**
+ * What @p ask gives while the cursor lies at @p point of the window. It is asked again when the cursor was elsewhere
+ * before or after: where the desktop is a window on another system, that one's word of an earlier move may come late.
+ */
+template <typename Ask>
+auto WithCursorAt(const QWidget& window, const QPoint& point, Ask ask)
 {
     const QPoint global = window.mapToGlobal(point);
-    QCursor::setPos(global);
-    QTRY_COMPARE(QCursor::pos(), global);
+    decltype(ask()) answer{};
+    const bool stayed = QTest::qWaitFor([&] {
+        QCursor::setPos(global);
+        if (QCursor::pos() != global) {
+            return false;
+        }
+        answer = ask();
+        return QCursor::pos() == global;
+    });
+    if (!stayed) {
+        QTest::qFail("the cursor does not stay where it is put", __FILE__, __LINE__);
+    }
+    return answer;
 }
 
 QColor PixelOf(QWidget& window, const QPoint& point)
@@ -58,6 +74,9 @@ QColor PixelOf(QWidget& window, const QPoint& point)
     ReleaseDC(HandleOf(window), dc);
     return {GetRValue(colour), GetGValue(colour), GetBValue(colour)};
 }
+
+/** What a message brought: whether it was handled, and the result. */
+using Answer = std::pair<bool, qintptr>;
 
 // The door of a window, as the toolkit calls it.
 template <typename Window>
@@ -70,6 +89,41 @@ bool Feed(Window& window, UINT number, qintptr* result, WPARAM wParam = 0)
     return window.nativeEvent("windows_generic_MSG", &message, result);
 }
 
+template <typename Window>
+Answer HitTestAt(Window& window, const QPoint& point)
+{
+    return WithCursorAt(window, point, [&window] {
+        qintptr result = 7; // what no zone has
+        const bool handled = Feed(window, WM_NCHITTEST, &result);
+        return Answer(handled, result);
+    });
+}
+
+/** How often a press there tells the host; none is handled. */
+template <typename Window>
+int PressesAt(Window& window, const QPoint& point, WPARAM zone)
+{
+    QSignalSpy pressed(&window, &Window::SignalTitleBarMousePressed);
+    return WithCursorAt(window, point, [&] {
+        pressed.clear();
+        qintptr result = 0;
+        // Not sent to the system's own procedure, whose move loop would wait for a real release.
+        return Feed(window, WM_NCLBUTTONDOWN, &result, zone) ? -1 : int(pressed.count());
+    });
+}
+
+/** One of the twins with a frame that the system still draws: its client area is smaller than the window. */
+template <typename Base>
+class Framed : public Base
+{
+public:
+    bool nativeEvent(const QByteArray& eventType, void* message, qintptr* result) override
+    {
+        const auto* native = static_cast<const MSG*>(message);
+        return native->message != WM_NCCALCSIZE && Base::nativeEvent(eventType, message, result);
+    }
+};
+
 } // namespace
 
 /** The native messages of both twins, sent to real windows. */
@@ -79,6 +133,7 @@ class NativeFrameTest : public QObject
 
 private Q_SLOTS:
     void aWindowHasTheStylesThatSnappingNeeds();
+    void aNewHandleHasTheStylesToo();
     void theClientAreaCoversTheWholeWindow();
     void eachZoneAnswersTheHitTest_data();
     void eachZoneAnswersTheHitTest();
@@ -102,6 +157,8 @@ private Q_SLOTS:
     void foreignAndEmptyMessagesAreLeftAlone();
     void aTitleBarMayBeDeletedWhileSet();
     void aSlotMayDeleteTheWindow();
+    void aWindowWithoutSizeAnswers();
+    void aWindowWithoutHandleAnswers();
 };
 
 void NativeFrameTest::aWindowHasTheStylesThatSnappingNeeds()
@@ -111,6 +168,34 @@ void NativeFrameTest::aWindowHasTheStylesThatSnappingNeeds()
     constexpr LONG kStyles = 0xC50000;
     QCOMPARE(GetWindowLongW(HandleOf(window), GWL_STYLE) & kStyles, kStyles);
     QCOMPARE(GetWindowLongW(HandleOf(dialog), GWL_STYLE) & kStyles, kStyles);
+}
+
+void NativeFrameTest::aNewHandleHasTheStylesToo()
+{
+    FramelessMainWindow window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    class HandleCounter : public QObject
+    {
+    public:
+        int handles = 0;
+
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            handles += event->type() == QEvent::WinIdChange;
+            return false;
+        }
+    };
+    HandleCounter counter;
+    window.installEventFilter(&counter);
+    QWidget host;
+    window.setParent(&host);
+    window.setParent(nullptr);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(counter.handles > 0);
+    constexpr LONG kStyles = 0xC50000;
+    QCOMPARE(GetWindowLongW(HandleOf(window), GWL_STYLE) & kStyles, kStyles);
 }
 
 void NativeFrameTest::theClientAreaCoversTheWholeWindow()
@@ -151,8 +236,8 @@ void NativeFrameTest::eachZoneAnswersTheHitTest()
         bar.setGeometry(0, 0, 400, 40);
         QMetaObject::invokeMethod(each, "setTitleBar", Q_ARG(QWidget*, &bar));
         QVERIFY(ShowInPlace(*each));
-        PutCursor(*each, point);
-        QCOMPARE(int(Send(*each, WM_NCHITTEST)), zone);
+        QCOMPARE(WithCursorAt(*each, point, [each] { return int(Send(*each, WM_NCHITTEST)); }), zone);
+        QCOMPARE(each == &window ? HitTestAt(window, point) : HitTestAt(dialog, point), Answer(true, zone));
         each->hide();
     }
 }
@@ -161,9 +246,9 @@ void NativeFrameTest::theHitTestTakesTheCursorAndNotTheMessage()
 {
     FramelessMainWindow window;
     QVERIFY(ShowInPlace(window));
-    PutCursor(window, QPoint(2, 150));
     const QPoint elsewhere = window.mapToGlobal(QPoint(398, 298));
-    QCOMPARE(int(Send(window, WM_NCHITTEST, 0, MAKELPARAM(elsewhere.x(), elsewhere.y()))), HTLEFT);
+    const auto ask = [&] { return int(Send(window, WM_NCHITTEST, 0, MAKELPARAM(elsewhere.x(), elsewhere.y()))); };
+    QCOMPARE(WithCursorAt(window, QPoint(2, 150), ask), HTLEFT);
 }
 
 void NativeFrameTest::aVisibleButtonOnTheTitleBarStaysClient()
@@ -172,10 +257,11 @@ void NativeFrameTest::aVisibleButtonOnTheTitleBarStaysClient()
     BarWithButton bar(window);
     window.setTitleBar(&bar);
     QVERIFY(ShowInPlace(window));
-    PutCursor(window, QPoint(120, 20));
-    qintptr result = 7;
-    QVERIFY(!Feed(window, WM_NCHITTEST, &result));
-    QCOMPARE(result, qintptr(0));
+    QCOMPARE(HitTestAt(window, QPoint(120, 20)), Answer(false, 0));
+    // What is left alone, the system answers by the place in the message.
+    const QPoint place = window.mapToGlobal(QPoint(120, 20));
+    const auto ask = [&] { return int(Send(window, WM_NCHITTEST, 0, MAKELPARAM(place.x(), place.y()))); };
+    QCOMPARE(WithCursorAt(window, QPoint(120, 20), ask), HTCLIENT);
 }
 
 void NativeFrameTest::aHiddenButtonCountsAsTitleBar()
@@ -185,32 +271,30 @@ void NativeFrameTest::aHiddenButtonCountsAsTitleBar()
     window.setTitleBar(&bar);
     bar.button.hide();
     QVERIFY(ShowInPlace(window));
-    PutCursor(window, QPoint(120, 20));
-    QCOMPARE(int(Send(window, WM_NCHITTEST)), HTCAPTION);
+    QCOMPARE(HitTestAt(window, QPoint(120, 20)), Answer(true, HTCAPTION));
+    QCOMPARE(PressesAt(window, QPoint(120, 20), HTCAPTION), 1);
 }
 
 void NativeFrameTest::withoutTitleBarOnlyTheEdgesAnswer()
 {
     FramelessMainWindow window;
     QVERIFY(ShowInPlace(window));
-    qintptr result = 7;
-    PutCursor(window, QPoint(200, 20));
-    QVERIFY(!Feed(window, WM_NCHITTEST, &result));
-    QCOMPARE(result, qintptr(0));
-    PutCursor(window, QPoint(2, 150));
-    QVERIFY(Feed(window, WM_NCHITTEST, &result));
-    QCOMPARE(result, qintptr(HTLEFT));
+    QCOMPARE(HitTestAt(window, QPoint(200, 20)), Answer(false, 0));
+    QCOMPARE(HitTestAt(window, QPoint(2, 150)), Answer(true, HTLEFT));
 }
 
 void NativeFrameTest::disabledResizeLeavesTheCornersAlone()
 {
     FramelessMainWindow window;
-    QVERIFY(ShowInPlace(window));
-    window.setResizeEnable(false);
-    PutCursor(window, QPoint(2, 2));
-    qintptr result = 7;
-    QVERIFY(!Feed(window, WM_NCHITTEST, &result));
-    QCOMPARE(result, qintptr(0));
+    FramelessDialog dialog;
+    for (QWidget* each : {static_cast<QWidget*>(&window), static_cast<QWidget*>(&dialog)}) {
+        QVERIFY(ShowInPlace(*each));
+        QMetaObject::invokeMethod(each, "setResizeEnable", Q_ARG(bool, false));
+        for (const QPoint& corner : {QPoint(2, 2), QPoint(398, 2), QPoint(2, 298), QPoint(398, 298)}) {
+            QCOMPARE(each == &window ? HitTestAt(window, corner) : HitTestAt(dialog, corner), Answer(false, 0));
+        }
+        each->hide();
+    }
 }
 
 void NativeFrameTest::aPressOnTheTitleBarIsTold()
@@ -222,14 +306,8 @@ void NativeFrameTest::aPressOnTheTitleBarIsTold()
         bar.setGeometry(0, 0, 400, 40);
         QMetaObject::invokeMethod(each, "setTitleBar", Q_ARG(QWidget*, &bar));
         QVERIFY(ShowInPlace(*each));
-        PutCursor(*each, QPoint(200, 20));
-        QSignalSpy pressed(each, SIGNAL(SignalTitleBarMousePressed()));
-        qintptr result = 0;
-        // Not sent to the system's own procedure, whose move loop would wait for a real release.
-        const bool handled = each == &window ? Feed(window, WM_NCLBUTTONDOWN, &result, HTCAPTION)
-                                             : Feed(dialog, WM_NCLBUTTONDOWN, &result, HTCAPTION);
-        QVERIFY(!handled);
-        QCOMPARE(pressed.count(), 1);
+        const QPoint free(200, 20);
+        QCOMPARE(each == &window ? PressesAt(window, free, HTCAPTION) : PressesAt(dialog, free, HTCAPTION), 1);
         each->hide();
     }
 }
@@ -238,17 +316,11 @@ void NativeFrameTest::aPressOnAButtonIsNotTold()
 {
     FramelessMainWindow window;
     BarWithButton bar(window);
-    QSignalSpy pressed(&window, &FramelessMainWindow::SignalTitleBarMousePressed);
     QVERIFY(ShowInPlace(window));
-    qintptr result = 0;
-    PutCursor(window, QPoint(200, 20));
-    Feed(window, WM_NCLBUTTONDOWN, &result, HTCAPTION); // no title bar yet
+    QCOMPARE(PressesAt(window, QPoint(200, 20), HTCAPTION), 0); // no title bar yet
     window.setTitleBar(&bar);
-    PutCursor(window, QPoint(120, 20));
-    Feed(window, WM_NCLBUTTONDOWN, &result, HTCLIENT);
-    PutCursor(window, QPoint(120, 200));
-    Feed(window, WM_NCLBUTTONDOWN, &result, HTCLIENT);
-    QCOMPARE(pressed.count(), 0);
+    QCOMPARE(PressesAt(window, QPoint(120, 20), HTCLIENT), 0);
+    QCOMPARE(PressesAt(window, QPoint(120, 200), HTCLIENT), 0);
 }
 
 void NativeFrameTest::aMaximisedWindowHasMarginsOfFive()
@@ -372,9 +444,9 @@ void NativeFrameTest::activationAndKeysAreLeftToTheToolkit()
 
 void NativeFrameTest::theFrameIsFilledInEachClassesColour()
 {
-    // What of the frame lies outside the client area is filled; a window whose client area is made smaller shows it.
-    FramelessMainWindow window;
-    FramelessDialog dialog;
+    // As the system has it, the client area covers the whole window and nothing is left to fill: these have a frame.
+    Framed<FramelessMainWindow> window;
+    Framed<FramelessDialog> dialog;
     struct Case
     {
         QWidget* window;
@@ -384,25 +456,52 @@ void NativeFrameTest::theFrameIsFilledInEachClassesColour()
         each.window->setGeometry(300, 300, 300, 200);
         each.window->show();
         QVERIFY(QTest::qWaitForWindowExposed(each.window));
-        // Every handler up to the toolkit's is passed by: the system's own default gives the client area a frame.
+        const HWND handle = HandleOf(*each.window);
+        constexpr UINT kAsItIs = SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE;
+        SetWindowPos(handle, nullptr, 0, 0, 0, 0, kAsItIs | SWP_FRAMECHANGED);
         RECT place;
-        GetWindowRect(HandleOf(*each.window), &place);
-        const HRGN everything = CreateRectRgn(place.left, place.top, place.right, place.bottom);
-        qintptr result = 0;
+        RECT client;
+        GetWindowRect(handle, &place);
+        GetClientRect(handle, &client);
+        const int width = int(place.right - place.left);
+        const int height = int(place.bottom - place.top);
+        QVERIFY(client.right < width && client.bottom < height);
+        POINT corner = {0, 0};
+        ClientToScreen(handle, &corner);
+        const QPoint top(width / 2, (corner.y - int(place.top)) / 2);
+        const QPoint content(corner.x - int(place.left) + 20, corner.y - int(place.top) + 20);
+
         const auto feed = [&](WPARAM update) {
+            qintptr result = 0;
             return each.window == &window ? Feed(window, WM_NCPAINT, &result, update)
                                           : Feed(dialog, WM_NCPAINT, &result, update);
         };
-        QVERIFY(!feed(1));
-        QVERIFY(!feed(reinterpret_cast<WPARAM>(everything)));
-        DeleteObject(everything);
-        RECT client;
-        GetClientRect(HandleOf(*each.window), &client);
-        const int frameWidth = int(place.right - place.left) - int(client.right - client.left);
-        if (frameWidth == 0) {
-            continue; // nothing of a frame is left to look at
+        const auto clear = [&] {
+            const HDC dc = GetWindowDC(handle);
+            const RECT all = {0, 0, width, height};
+            FillRect(dc, &all, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+            ReleaseDC(handle, dc);
+        };
+        // The whole frame and nothing of the content.
+        for (const WPARAM whole : {WPARAM(0), WPARAM(1)}) {
+            clear();
+            QVERIFY(!feed(whole));
+            QCOMPARE(PixelOf(*each.window, top), each.colour);
+            QCOMPARE(PixelOf(*each.window, QPoint(0, height - 1)), each.colour);
+            QCOMPARE(PixelOf(*each.window, QPoint(width - 1, height / 2)), each.colour);
+            QCOMPARE(PixelOf(*each.window, content), QColor(Qt::white));
         }
-        QCOMPARE(PixelOf(*each.window, QPoint(0, 0)), each.colour);
+        // The left half alone; a region is in the screen's coordinates.
+        clear();
+        const HRGN left = CreateRectRgn(place.left, place.top, place.left + width / 2, place.bottom);
+        QVERIFY(!feed(reinterpret_cast<WPARAM>(left)));
+        QCOMPARE(PixelOf(*each.window, top - QPoint(width / 4, 0)), each.colour);
+        QCOMPARE(PixelOf(*each.window, top + QPoint(width / 4, 0)), QColor(Qt::white));
+        QCOMPARE(PixelOf(*each.window, content), QColor(Qt::white));
+        // The region is the system's: it is not deleted.
+        QVERIFY(OffsetRgn(left, 1, 1) != ERROR);
+        DeleteObject(left);
+        each.window->hide();
     }
 }
 
@@ -454,15 +553,20 @@ void NativeFrameTest::everyMessageReturnsAsItShould()
 void NativeFrameTest::foreignAndEmptyMessagesAreLeftAlone()
 {
     FramelessMainWindow window;
+    QSignalSpy moving(&window, &FramelessMainWindow::SignalMoving);
     MSG native = {};
     native.hwnd = HandleOf(window);
-    native.message = WM_NCCALCSIZE;
     qintptr result = 42;
-    QVERIFY(!window.PP("NSEvent", &native, &result));
-    QVERIFY(!window.PP("windows_dispatcher_MSG", &native, &result));
-    QVERIFY(!window.PP("windows_generic_MSG", nullptr, &result));
-    QVERIFY(!window.PP("windows_generic_MSG", &native, nullptr));
+    for (const UINT number : {UINT(WM_NCCALCSIZE), UINT(WM_MOVING)}) {
+        native.message = number;
+        QVERIFY(!window.PP("NSEvent", &native, &result));
+        QVERIFY(!window.PP("windows_dispatcher_MSG", &native, &result));
+        QVERIFY(!window.PP("windows_generic_MSG", nullptr, &result));
+        QVERIFY(!window.PP("windows_generic_MSG", &native, nullptr));
+        QVERIFY(!window.PP(QByteArray(), nullptr, nullptr));
+    }
     QCOMPARE(result, qintptr(42));
+    QCOMPARE(moving.count(), 0);
 }
 
 void NativeFrameTest::aTitleBarMayBeDeletedWhileSet()
@@ -473,11 +577,8 @@ void NativeFrameTest::aTitleBarMayBeDeletedWhileSet()
     window.setTitleBar(bar);
     QVERIFY(ShowInPlace(window));
     delete bar;
-    PutCursor(window, QPoint(200, 20));
-    qintptr result = 7;
-    QVERIFY(!Feed(window, WM_NCHITTEST, &result));
-    QCOMPARE(result, qintptr(0));
-    QVERIFY(!Feed(window, WM_NCLBUTTONDOWN, &result));
+    QCOMPARE(HitTestAt(window, QPoint(200, 20)), Answer(false, 0));
+    QCOMPARE(PressesAt(window, QPoint(200, 20), HTCAPTION), 0);
 }
 
 void NativeFrameTest::aSlotMayDeleteTheWindow()
@@ -492,6 +593,35 @@ void NativeFrameTest::aSlotMayDeleteTheWindow()
     message.message = WM_MOVING;
     qintptr result = 0;
     QVERIFY(!window->PP("windows_generic_MSG", &message, &result));
+}
+
+void NativeFrameTest::aWindowWithoutSizeAnswers()
+{
+    FramelessMainWindow window;
+    window.setMinimumSize(0, 0);
+    window.resize(0, 0);
+    window.show();
+    for (const UINT number : {UINT(WM_NCCALCSIZE), UINT(WM_NCHITTEST), UINT(WM_GETMINMAXINFO), UINT(WM_MOVING),
+                              UINT(WM_NCACTIVATE), UINT(WM_NCPAINT)}) {
+        qintptr result = 0;
+        Feed(window, number, &result);
+    }
+    QVERIFY(window.isVisible());
+}
+
+void NativeFrameTest::aWindowWithoutHandleAnswers()
+{
+    FramelessMainWindow window;
+    window.destroy();
+    QVERIFY(!window.internalWinId());
+    MSG message = {};
+    for (const UINT number : {UINT(WM_NCCALCSIZE), UINT(WM_NCHITTEST), UINT(WM_NCLBUTTONDOWN), UINT(WM_GETMINMAXINFO),
+                              UINT(WM_MOVING), UINT(WM_NCACTIVATE), UINT(WM_NCPAINT)}) {
+        message.message = number;
+        qintptr result = 0;
+        window.PP("windows_generic_MSG", &message, &result);
+    }
+    QVERIFY(!window.isVisible());
 }
 
 CUSTOMCONTROLS_TEST_MAIN(NativeFrameTest)
