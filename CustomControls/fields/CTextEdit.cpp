@@ -27,9 +27,8 @@ CTextEdit::CTextEdit(QWidget* parent, QString name, QString defaultValue, QStrin
 {
     ui->setupUi(this);
 
-    const double value = defaultValue.toDouble();
-    m_dDefaultValue = IsInRange(value) ? value : ui->lineEdit->minimum();
-    ui->lineEdit->setValue(IsInRange(value) ? value : m_dDefaultValue);
+    SetDefaultValue(defaultValue.toDouble());
+    ui->lineEdit->setValue(m_dDefaultValue);
 
     ui->m_labelName->setText(name);
     ui->m_labelUnit->setText(unit);
