@@ -2,17 +2,20 @@
 # Builds everything and runs every test, under the release preset and under the sanitizers.
 #   --release   the release preset only
 #   --asan      the sanitizers only
+#   --long ...  instead, what takes too long for every change: see scripts/test-long.sh --help
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
 
 presets=(release asan)
-for argument in "$@"; do
-    case $argument in
+while [ $# -gt 0 ]; do
+    case $1 in
     --release) presets=(release) ;;
     --asan) presets=(asan) ;;
-    *) sed -n '2,4s/^# \{0,1\}//p' "$0"; exit 2 ;;
+    --long) shift; exec scripts/test-long.sh "$@" ;;
+    *) sed -n '2,5s/^# \{0,1\}//p' "$0"; exit 2 ;;
     esac
+    shift
 done
 
 require_packages "${PACKAGES_BUILD[@]}" "${PACKAGES_SHOW[@]}" "${PACKAGES_DISPLAY[@]}" "${PACKAGES_TEST[@]}"
