@@ -19,6 +19,7 @@ class CORVANEBASE_EXPORT CorvaneRegisterHelper : public QObject
     Q_OBJECT
 
 public:
+    /** The one object, made when it is first asked for. */
     static CorvaneRegisterHelper* instance();
 
     /**

@@ -22,6 +22,7 @@ class CORVANEBASE_EXPORT CorvaneSignalHelper : public QObject
     Q_OBJECT
 
 public:
+    /** The one object, made when it is first asked for. */
     static CorvaneSignalHelper* instance();
 
     /** True while the host runs in its checking mode: the message boxes then write one log line each. */

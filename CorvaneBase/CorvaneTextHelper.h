@@ -19,6 +19,7 @@
 class CORVANEBASE_EXPORT CorvaneTextHelper
 {
 public:
+    /** The one object, made when it is first asked for. */
     static CorvaneTextHelper* instance();
 
     /** True when the product runs in Chinese. Controls that need more room for longer texts branch on it. */
@@ -42,6 +43,8 @@ public:
      * file that cannot be written leaves the value in force for this run. A file that was there but could not be
      * understood is kept as "<path>.bad".
      *
+     * @param type  the group of the setting
+     * @param key   its name in the group
      * @param value any QVariant that QDataStream can write; it comes back with its type. An invalid one removes the
      * setting
      * @param flag  reserved; the controls pass false

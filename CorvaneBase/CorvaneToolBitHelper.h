@@ -30,6 +30,7 @@ struct ToolBit
 class CORVANEBASE_EXPORT CorvaneToolBitHelper
 {
 public:
+    /** The one object, made when it is first asked for. */
     static CorvaneToolBitHelper* instance();
 
     /** The type code of a tool; -1 for a number that the model does not have. */
@@ -52,7 +53,8 @@ public:
      * Replaces the tools of each model that a JSON file names, and the type names that it gives; docs/tool-data.md
      * tells its form.
      *
-     * @param error receives the reason of a failure in words for the user, and is emptied on success; may be null
+     * @param jsonFile path of the file
+     * @param error    receives the reason of a failure in words for the user, and is emptied on success; may be null
      * @return false when the file cannot be read or is not in that form: then everything stays as it was
      */
     bool LoadTools(const QString& jsonFile, QString* error);

@@ -28,6 +28,7 @@ public:
         StatusConfigurationFailed = 5 ///< the system refused the address for another reason
     };
 
+    /** What came of a search. */
     struct Result
     {
         int iStatus = StatusNoAdapter;              ///< a Status; 0 is success

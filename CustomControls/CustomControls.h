@@ -7,6 +7,8 @@ class CUSTOMCONTROLS_EXPORT CustomControls
 {
 public:
     CustomControls();
+    /** Nothing to assign. */
     CustomControls& operator=(const CustomControls& other);
+    /** Nothing to move. */
     CustomControls& operator=(CustomControls&& other) noexcept;
 };

@@ -19,7 +19,9 @@
 class CUSTOMCONTROLS_EXPORT StatefulIcon
 {
 public:
+    /** Nothing to assign. */
     StatefulIcon& operator=(const StatefulIcon& other);
+    /** Nothing to move. */
     StatefulIcon& operator=(StatefulIcon&& other) noexcept;
 
     /**
@@ -27,7 +29,9 @@ public:
      * a disabled button keeps its colours. Beside each path an "@3x" or "@2x" file is looked for when the application's
      * device pixel ratio asks for it. A file that does not exist gives an entry without picture and no message.
      *
-     * @param size edge of the square icon, in logical pixels
+     * @param onPath  file or resource of the checked look
+     * @param offPath file or resource of the unchecked look
+     * @param size    edge of the square icon, in logical pixels
      */
     static QIcon create(const QString& onPath, const QString& offPath, int size);
 

@@ -6,7 +6,7 @@ PACKAGES_BUILD=(g++ cmake ninja-build ccache qt6-base-dev qt6-base-dev-tools qt6
 PACKAGES_SHOW=(fonts-noto-cjk fonts-noto-core)
 PACKAGES_DISPLAY=(xvfb xauth openbox x11-utils xcompmgr xdotool)
 PACKAGES_WINDOWS=(g++-mingw-w64-x86-64-posix wine wine64 xz-utils)
-PACKAGES_TEST=(git iproute2 util-linux libbenchmark-dev binutils clang-format)
+PACKAGES_TEST=(git iproute2 util-linux libbenchmark-dev binutils clang-format doxygen)
 
 say() { printf '== %s\n' "$*"; }
 

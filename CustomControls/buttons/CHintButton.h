@@ -24,6 +24,7 @@ class CUSTOMCONTROLS_EXPORT CHintButton : public QPushButton
     Q_OBJECT
 
 public:
+    /** Makes a button without a note; @p parent owns it and may be null. */
     explicit CHintButton(QWidget* parent = nullptr);
     /** Deletes the note that SetToolTipText() made; one that the host set stays with the host. */
     ~CHintButton() override;
@@ -58,7 +59,8 @@ public:
     /**
      * Keeps the paths of two icons for a subclass that paints them; the button itself draws neither.
      *
-     * @param iconHover an empty one takes @p icon
+     * @param icon      path of the icon at rest
+     * @param iconHover path of the icon under the pointer; an empty one takes @p icon
      */
     void SetIcon(const QString& icon, const QString& iconHover);
 
@@ -78,6 +80,7 @@ public:
     /** Hides the note, pinned or not. */
     void HideToolTip();
 
+    /** Whether the note is on the screen, pinned or not. */
     bool IsToolTipVisible() const;
 
 protected:

@@ -43,6 +43,7 @@ public:
      */
     void applyMousePassthrough(bool enable);
 
+    /** Hides the note at a press elsewhere; every event goes on to where it was meant for. */
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
@@ -54,6 +55,7 @@ public:
     virtual void setText(const QString& text);
 
 protected:
+    /** What setOwnerButton() was last given; null once it is deleted. */
     QWidget* m_pOwnerButton = nullptr;
     /** A note that clicks are to pass through sets this to false in its constructor. */
     bool m_bTakesMouse = true;

@@ -24,6 +24,7 @@ class CUSTOMCONTROLS_EXPORT CIconButton : public QPushButton
     Q_OBJECT
 
 public:
+    /** Makes a button without icon and caption; @p parent owns it and may be null. */
     explicit CIconButton(QWidget* parent = nullptr);
 
     /**

@@ -27,6 +27,7 @@ class CUSTOMCONTROLS_EXPORT CSelectButton : public QPushButton
     Q_OBJECT
 
 public:
+    /** Makes an unchecked tile without picture and caption; @p parent owns it and may be null. */
     explicit CSelectButton(QWidget* parent = nullptr);
 
     /**

@@ -140,6 +140,7 @@ public:
      * Frames the icon in the text's colour, with the corners of SetBtnRadius().
      *
      * @param border what stands before the colour, such as "border:1px solid "; kept for later while @p enable is false
+     * @param enable true shows the frame, false takes it away
      */
     void SetIconBorder(const QString& border, bool enable);
     /** Whether the button is chosen, also for a type on which that does not show. */

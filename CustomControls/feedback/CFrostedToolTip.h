@@ -21,7 +21,10 @@ class CUSTOMCONTROLS_EXPORT CFrostedToolTip : public QWidget
     Q_OBJECT
 
 public:
-    /** @param text may be empty or rich text, as that of a QLabel */
+    /**
+     * @param text   may be empty or rich text, as that of a QLabel
+     * @param parent the owner; null leaves the tip to Hide()
+     */
     CFrostedToolTip(const QString& text, QWidget* parent);
 
     /** Fades the tip out in 200 ms, then deletes it. */

@@ -23,6 +23,7 @@ class CUSTOMCONTROLS_EXPORT CWatermarkWidget : public QWidget
     Q_OBJECT
 
 public:
+    /** Makes an empty widget that marks nothing until ShowWatermark(); @p parent owns it and may be null. */
     explicit CWatermarkWidget(QWidget* parent = nullptr);
     ~CWatermarkWidget() override;
 

@@ -25,6 +25,7 @@ class CUSTOMCONTROLS_EXPORT ToolTipEventFilter : public QObject
     Q_OBJECT
 
 public:
+    /** Makes a filter that watches nothing until it is installed; @p parent owns it and may be null. */
     explicit ToolTipEventFilter(QObject* parent);
     ~ToolTipEventFilter() override;
 

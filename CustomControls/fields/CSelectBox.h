@@ -36,6 +36,7 @@ public:
     CSelectBox(QString text, bool checked, QString hintText, QWidget* parent);
     ~CSelectBox() override;
 
+    /** Whether the switch is on. */
     bool IsChecked() const;
 
     /** Switches; a change emits signalSelectBoxToggled(). Nothing happens while the switch cannot be checked. */

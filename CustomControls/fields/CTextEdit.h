@@ -65,6 +65,7 @@ public:
     /**
      * The same, with another number of decimals.
      *
+     * @param value    the number to show
      * @param decimals see SetDecimals(); it stays
      */
     void SetValue(double value, int decimals);
@@ -72,6 +73,7 @@ public:
     /**
      * The same, for angles. A @p value closer to zero than 0.00001 shows zero, wrapped or not.
      *
+     * @param value    the angle to show
      * @param decimals see SetDecimals(); it stays
      * @param wrap     true first brings @p value into the range: v = fmod(value, span), and one span more below the
      * minimum or one less above the maximum. With a span of zero the number stays as it is

@@ -28,6 +28,7 @@ class CUSTOMCONTROLS_EXPORT FramelessDialog : public QDialog
     Q_OBJECT
 
 public:
+    /** Makes a window without a caption; @p parent owns it and may be null. */
     explicit FramelessDialog(QWidget* parent = nullptr);
     ~FramelessDialog() override;
 

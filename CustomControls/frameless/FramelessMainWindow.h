@@ -28,6 +28,7 @@ class CUSTOMCONTROLS_EXPORT FramelessMainWindow : public QMainWindow
     Q_OBJECT
 
 public:
+    /** Makes a window without a caption; @p parent owns it and may be null. */
     explicit FramelessMainWindow(QWidget* parent = nullptr);
     ~FramelessMainWindow() override;
 

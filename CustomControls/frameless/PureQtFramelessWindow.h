@@ -25,6 +25,7 @@ class CUSTOMCONTROLS_EXPORT PureQtFramelessWindow : public QMainWindow
     Q_OBJECT
 
 public:
+    /** Makes a window without a title bar; @p parent owns it and may be null. */
     explicit PureQtFramelessWindow(QWidget* parent = nullptr);
     ~PureQtFramelessWindow() override;
 

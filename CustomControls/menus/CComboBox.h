@@ -45,10 +45,13 @@ public:
     void AddComboItem(const QString& text);
     /** Removes the first entry with that text, upper and lower case told apart; an unknown text is ignored. */
     void RemoveItem(const QString& text);
+    /** Removes all entries. The values of AddItemValue() stay. */
     void RemoveAllItems();
     /**
      * Fixes the box's size; the list gets the same width.
      *
+     * @param width          of box and list, in logical pixels
+     * @param height         of the box, in logical pixels
      * @param menuItemHeight height of a row of the list, which is 2 pixels higher still; 0 for that of the box
      */
     void SetBoxSize(int width, int height, int menuItemHeight);

@@ -106,14 +106,16 @@ public:
     void SetTextAlignment(QFlags<Qt::AlignmentFlag> alignment);
 
     /**
-     * Takes rows out of the menu, or puts them back, by their displayed text, upper and lower case told apart; so
+     * Takes rows out of the menu by their displayed text, upper and lower case told apart; so
      * translated texts are passed. A row that is out is hidden and disabled, and that is what marks it: on one row use
      * either these or SetEnabled.
      */
     void HideMenuBtn(const QList<QString>& texts);
+    /** Puts rows back that HideMenuBtn() took out. */
     void ShowMenuBtn(const QList<QString>& texts);
-    /** Takes a separator out, or puts it back, by its order of adding; an index that none has is ignored. */
+    /** Takes a separator out by its order of adding; an index that none has is ignored. */
     void HideSplitLine(int index);
+    /** Puts a separator back that HideSplitLine() took out. */
     void ShowSplitLine(int index);
 
     /** The sub-menu of a row, or null. */

@@ -52,6 +52,7 @@ public:
      */
     int SetItemSize(int minWidth, int height, int textWidth, int shortcutWidth);
 
+    /** The text as it was given. */
     QString text();
     /** Changes the text and nothing else: the row keeps its size. */
     void SetText(const QString& text);
@@ -72,6 +73,7 @@ public:
 
     /** The host's own number of the row, 0 before. */
     void SetButtonId(int id);
+    /** The host's own number of the row. */
     int GetButtonId() const;
 
     /** Enables or disables the row and shows the icon for it. A disabled row does not react to the mouse. */
@@ -84,7 +86,9 @@ public:
      * @param stateButton whether a click leaves the menu open
      */
     void SetBtnState(bool checked, bool stateButton);
+    /** Whether the row is a state row: a click on it leaves the menu open. */
     bool IsStateButton() const;
+    /** Whether the row is checked, which is whether its icon shows. */
     bool GetBtnState() const;
 
     bool eventFilter(QObject* obj, QEvent* event) override;

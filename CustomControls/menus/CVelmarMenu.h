@@ -95,15 +95,19 @@ public:
     void SetFont(QFont font);
 
     /**
-     * Takes buttons or rows out of the menu, or puts them back, by index. A negative index counts from the end, -1
+     * Takes buttons out of the menu by index. A negative index counts from the end, -1
      * being the last; one that no row has is ignored. What is out is hidden and disabled, and that is what marks it.
      */
     void HideMenuBtn(const QList<int>& indexes);
+    /** Puts buttons back that HideMenuBtn() took out. */
     void ShowMenuBtn(const QList<int>& indexes);
+    /** Takes rows of AddMenuItem() out, by index as HideMenuBtn() reads it. */
     void HideMenuItem(const QList<int>& indexes);
+    /** Puts rows back that HideMenuItem() took out. */
     void ShowMenuItem(const QList<int>& indexes);
-    /** Takes a separator out, or puts it back, by its order of adding; an index that none has is ignored. */
+    /** Takes a separator out by its order of adding; an index that none has is ignored. */
     void HideSplitLine(int index);
+    /** Puts a separator back that HideSplitLine() took out. */
     void ShowSplitLine(int index);
 
     /** Closes the menu that is open, if any, and opens this one. Not virtual: a call through QWidget passes it by. */

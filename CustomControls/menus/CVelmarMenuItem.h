@@ -30,6 +30,8 @@ class CUSTOMCONTROLS_EXPORT CVelmarMenuItem : public QWidget
 public:
     /**
      * @param parent     the owner; may be null
+     * @param text       shown as it stands
+     * @param shortcut   a label only: no key is bound
      * @param icon       path of the icon at rest; empty for none
      * @param iconHover  path of the icon on hover; empty for the same as at rest
      * @param hasSubMenu draws an arrow, and a click does not count as a choice
@@ -44,17 +46,21 @@ public:
      */
     void SetItemSize(int width, int height, int, int);
 
+    /** The text as it was given. */
     QString text();
+    /** The text; the row keeps its size. */
     void SetText(const QString& text);
     /** The icon at rest and on hover, shown at once. */
     void SetIcon(const QString& path);
     /** Flat and white give the row its light colours; any other style keeps the colours that it has. */
     void SetMenuStyle(MenuStyle style);
+    /** The fonts of the text and of the shortcut. */
     void SetMenuFont(const QFont& text, const QFont& shortcut);
     /** Marks the row as if hovered, until it is unmarked or hidden. */
     void SetChooseFocus(bool focus);
     /** A hidden icon leaves its place empty, so that the text stays in its column. */
     void SetIconVisible(bool visible);
+    /** Enables or disables the row. */
     void SetEnabled(bool enabled);
 
     bool eventFilter(QObject* obj, QEvent* event) override;

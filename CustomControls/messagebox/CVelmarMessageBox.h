@@ -139,8 +139,14 @@ public:
     /**
      * As ShowWindow, with a check box beside the buttons. A hidden parent gives its screen as the place of the box.
      *
-     * @param checkText an empty text keeps "不再提醒"
-     * @param checked   the state at first
+     * @param parent      as for the constructor, like the following four
+     * @param buttonMask  EnumMsgButtonFunction bits
+     * @param icon        an EnumMsgIcon
+     * @param title       may be empty
+     * @param content     plain or rich text
+     * @param checkText   an empty text keeps "不再提醒"
+     * @param checked     the state at first
+     * @param buttonTexts texts that replace the default ones
      * @return the result code, and the state of the check box at the end, however the box was closed; false when the
      * box was deleted while it ran
      */
@@ -160,8 +166,11 @@ public:
      * Tells about a file or folder and offers to show it in the file manager, which is started after the call has
      * returned. A failed start is not reported.
      *
-     * @param path  of the file or folder; it need not exist
-     * @param title an empty title becomes "提示"
+     * @param parent  owner and the window that the box is centred on; may be null
+     * @param path    of the file or folder; it need not exist
+     * @param content plain or rich text
+     * @param icon    an EnumMsgIcon
+     * @param title   an empty title becomes "提示"
      * @return 4 when the user asked for the file manager, else 8
      */
     static int ShowWindowAndOpenDir(QWidget* parent, const QString& path, const QString& content, EnumMsgIcon icon,
@@ -175,6 +184,7 @@ public:
      * use, with the strategy's tag, and the tool's name, measures and place as CorvaneToolBitHelper knows them. At most
      * nine rows are seen at once, the titles among them; the others are scrolled to.
      *
+     * @param parent      owner and the window that the box is centred on; may be null
      * @param buttonMask  has no effect: the box has the one button MsgBtnOk
      * @param icon        has no effect: the box has the image of MsgIconPop2
      * @param title       an empty title hides the title line
@@ -202,7 +212,9 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
 
 protected Q_SLOTS:
+    /** What a function button's click does: the signal, then the end of the run. */
     void SlotAcceptSender();
+    /** What the close button's click does: the end of the run with result 2. */
     void pushButton_clicked_slot();
 
 private:

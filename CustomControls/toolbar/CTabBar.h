@@ -20,8 +20,10 @@ class CUSTOMCONTROLS_EXPORT CTabBar : public QTabBar
     Q_OBJECT
 
 public:
+    /** Makes a bar without tabs; @p parent owns it and may be null. */
     explicit CTabBar(QWidget* parent);
 
+    /** As wide as the tabs, 30 pixels high. */
     QSize sizeHint() const override;
 
 protected:

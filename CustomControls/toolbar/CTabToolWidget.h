@@ -16,6 +16,7 @@ class CUSTOMCONTROLS_EXPORT CTabToolWidget : public CTabWidget
     Q_OBJECT
 
 public:
+    /** Makes a ribbon without pages; @p parent owns it and may be null. */
     explicit CTabToolWidget(QWidget* parent = nullptr);
 
 protected:

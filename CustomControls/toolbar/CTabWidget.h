@@ -18,5 +18,6 @@ class CUSTOMCONTROLS_EXPORT CTabWidget : public QTabWidget
     Q_OBJECT
 
 public:
+    /** Makes a strip without pages; @p parent owns it and may be null. */
     explicit CTabWidget(QWidget* parent);
 };

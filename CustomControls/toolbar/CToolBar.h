@@ -30,13 +30,17 @@ class CUSTOMCONTROLS_EXPORT CToolBar : public QToolBar
     Q_OBJECT
 
 public:
+    /** The heights of a bar. */
     enum EnumToolBarMode : int
     {
         ToolBarModeSlim = 0, ///< 41 pixels high
         ToolBarModeBlock = 1 ///< 78 pixels high, with room for captions and a group caption
     };
 
-    /** @param mode gives the height; any value but ToolBarModeBlock counts as ToolBarModeSlim */
+    /**
+     * @param mode   gives the height; any value but ToolBarModeBlock counts as ToolBarModeSlim
+     * @param parent the owner, as a rule the main window; may be null
+     */
     CToolBar(EnumToolBarMode mode, QWidget* parent);
     ~CToolBar() override;
 
@@ -45,6 +49,7 @@ public:
 
     /** Outside a Chinese environment, puts the last word of each caption made from now on onto a line of its own. */
     void SetSplitLastWordMode(bool split);
+    /** What SetSplitLastWordMode() was last given, false before. */
     bool IsSplitLastWordMode() const;
 
     /**
@@ -53,6 +58,7 @@ public:
      */
     static void ClearCheckedBtn();
 
+    /** As wide as any tool bar of its content, as high as its mode says. */
     QSize sizeHint() const override;
 
     /** The tool that is checked at present, over all bars; null when there is none. Written by the blocks. */
@@ -64,15 +70,15 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
-    EnumToolBarMode m_eMode;
-    bool m_bGeometryPending = false;
-    QToolButton* m_pExtensionBtn = nullptr;
-    QList<CToolButton*> m_listToolBtn;
-    int m_nFixedWidthForPainting = -1;
-    bool m_bSplitLastWord = false;
+    EnumToolBarMode m_eMode;                ///< gives the height
+    bool m_bGeometryPending = false;        ///< a new layout of the row has been asked for and is on its way
+    QToolButton* m_pExtensionBtn = nullptr; ///< the overflow button of a block
+    QList<CToolButton*> m_listToolBtn;      ///< the buttons of a block, in the order in which they were made
+    int m_nFixedWidthForPainting = -1;      ///< see SetFixedWidthForPainting()
+    bool m_bSplitLastWord = false;          ///< see SetSplitLastWordMode()
 
-    // The state of all buttons in which the bar was last found at one height with the others; 0 when it has to be
-    // asked.
+    /** The state of all buttons in which the bar was last found at one height with the others; 0 when it has to be
+     *  asked. */
     quint64 m_nUnifiedRevision = 0;
 
 private:

@@ -31,7 +31,10 @@ class CUSTOMCONTROLS_EXPORT CToolBarItem : public CToolBar
     Q_OBJECT
 
 public:
-    /** @param name object name and group caption of the block */
+    /**
+     * @param name   object name and group caption of the block
+     * @param parent the owner, as a rule the main window; may be null
+     */
     CToolBarItem(const QString& name, QWidget* parent);
     ~CToolBarItem() override;
 
@@ -46,7 +49,7 @@ public:
      */
     void AddItem(const QString& iconPath, const QString& text, const int& type, const QString& disabledIconPath);
 
-    /** As AddItem(), on a ground of its own. @param highlightColor as QColor reads it; no colour means no ground */
+    /** As AddItem(), on a ground of its own: @p highlightColor as QColor reads it; no colour means no ground. */
     void AddItemHighlight(const QString& iconPath, const QString& text, const int& type,
                           const QString& disabledIconPath, const QString& highlightColor);
 

@@ -29,6 +29,7 @@ class CUSTOMCONTROLS_EXPORT CToolButton : public QToolButton
     Q_OBJECT
 
 public:
+    /** Makes a button without icon and caption; @p parent owns it and may be null. */
     explicit CToolButton(QWidget* parent);
 
     /** @param width of the widest caption of the row, in pixels; one that is narrower than the icon changes nothing */
@@ -36,6 +37,7 @@ public:
 
     /** @param lines that the row reserves for captions; anything below 1 counts as 1 */
     void SetSharedTextLines(int lines);
+    /** What SetSharedTextLines() was last given, 1 before. */
     int SharedTextLines() const;
 
     /** Makes the button look hovered, or not, and repaints at once. The pointer's next coming or going overrules it. */
@@ -48,6 +50,7 @@ public:
     void SetFocuseState();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
+    /** Room for icon, shared caption width and shared caption lines; a fixed size without a caption. */
     QSize sizeHint() const override;
 
 Q_SIGNALS:
@@ -67,11 +70,11 @@ protected:
     /** Fills the whole button with rounded corners. */
     void PaintFill(QPainter& painter, const QColor& color, qreal radius) const;
 
-    int m_nSharedWidth = 0;
-    int m_nSharedTextLines = 1;
-    bool m_bHovered = false;
-    bool m_bPressed = false;
-    bool m_bFocusState = false;
+    int m_nSharedWidth = 0;     ///< see SetSharedWidth()
+    int m_nSharedTextLines = 1; ///< see SetSharedTextLines()
+    bool m_bHovered = false;    ///< the pointer is on the button, or SetSelected() says so
+    bool m_bPressed = false;    ///< a mouse button is down on it
+    bool m_bFocusState = false; ///< the solid fill is on
 
 private:
     friend class CToolBar;

@@ -20,12 +20,14 @@ class CUSTOMCONTROLS_EXPORT CToolButtonVertical : public CToolButton
     Q_OBJECT
 
 public:
+    /** Makes a button without icon and caption; @p parent owns it and may be null. */
     explicit CToolButtonVertical(QWidget* parent);
 
     /** @param width of the widest caption of the stack, in pixels; takes effect when the layout next asks for the size
      */
     void SetGroupWidth(int width);
 
+    /** 24 pixels high, and as wide as icon and the stack's caption width need. */
     QSize sizeHint() const override;
 
 protected:
