@@ -21,6 +21,10 @@
 class CUSTOMCONTROLS_EXPORT CProgressBar : public QProgressBar
 {
     Q_OBJECT
+    Q_PROPERTY(bool percentageVisible MEMBER m_bTextVisible WRITE SetTextVisible)
+    /** The two colours of SetColor(), which show when the bar is next painted. */
+    Q_PROPERTY(QColor emptyTextColor MEMBER m_colorEmpty)
+    Q_PROPERTY(QColor filledTextColor MEMBER m_colorFilled)
 
 public:
     /** A bar at 0 of 100 in the house font; @p parent owns it and may be null. */

@@ -4,6 +4,7 @@
 
 #include <QCursor>
 #include <QGuiApplication>
+#include <QLabel>
 #include <QMouseEvent>
 #include <QScreen>
 #include <QStyle>
@@ -43,6 +44,20 @@ void CHintButton::SetToolTipText(const QString& text)
     auto* toolTip = new CHintTextToolTip(this, nullptr);
     toolTip->setText(text);
     AdoptToolTip(toolTip, true);
+}
+
+QString CHintButton::HintText() const
+{
+    return m_bOwnToolTip ? m_pToolTip->findChild<QLabel*>()->text() : QString();
+}
+
+void CHintButton::SetHintText(const QString& text)
+{
+    if (text.isEmpty()) {
+        ClearContent();
+    } else {
+        SetToolTipText(text);
+    }
 }
 
 void CHintButton::SetToolTip(CHintToolTip* toolTip)

@@ -22,6 +22,13 @@ class QTimer;
 class CUSTOMCONTROLS_EXPORT CHintButton : public QPushButton
 {
     Q_OBJECT
+    /** The caption as it was given, before it is wrapped. */
+    Q_PROPERTY(QString text MEMBER m_strRawText WRITE setText)
+    Q_PROPERTY(bool autoWrap MEMBER m_bAutoWrap WRITE SetAutoWrap)
+    /** The text of the note that the button owns; an empty one leaves the button without a note. */
+    Q_PROPERTY(QString hintText READ HintText WRITE SetHintText)
+    Q_PROPERTY(bool hoverShow MEMBER m_bHoverShow WRITE SetHoverShow)
+    Q_PROPERTY(QPoint positionOffset MEMBER m_ptOffset WRITE SetPositionOffset)
 
 public:
     /** Makes a button without a note; @p parent owns it and may be null. */
@@ -91,6 +98,8 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    QString HintText() const;
+    void SetHintText(const QString& text);
     QString BuildDisplayText() const;
     void UpdateDisplayText();
     QPoint computeToolTipPosition() const;

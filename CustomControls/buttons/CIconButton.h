@@ -22,6 +22,9 @@
 class CUSTOMCONTROLS_EXPORT CIconButton : public QPushButton
 {
     Q_OBJECT
+    /** Icon and caption, in the place of those of QAbstractButton. */
+    Q_PROPERTY(QString icon MEMBER m_strIcon WRITE SetIcon)
+    Q_PROPERTY(QString text MEMBER m_strText WRITE SetText)
 
 public:
     /** Makes a button without icon and caption; @p parent owns it and may be null. */

@@ -40,6 +40,7 @@ CSelectButton::CSelectButton(QWidget* parent)
 
 void CSelectButton::setIcon(const QString& path)
 {
+    m_strIcon = path;
     m_icon = QIcon(path);
     m_sizeIcon = SizeOfPicture(path);
 }

@@ -25,6 +25,9 @@
 class CUSTOMCONTROLS_EXPORT CSelectButton : public QPushButton
 {
     Q_OBJECT
+    /** Picture and caption, in the place of those of QAbstractButton. */
+    Q_PROPERTY(QString icon MEMBER m_strIcon WRITE setIcon)
+    Q_PROPERTY(QString text MEMBER m_strText WRITE setText)
 
 public:
     /** Makes an unchecked tile without picture and caption; @p parent owns it and may be null. */
@@ -50,5 +53,6 @@ private:
     QIcon m_icon;
     QSize m_sizeIcon;
     QString m_strText;
+    QString m_strIcon; // where m_icon was read from
     QPixmap m_pixMark; // the mark of a checked tile, read once
 };

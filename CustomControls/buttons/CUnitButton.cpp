@@ -33,6 +33,12 @@ constexpr Look kNormal{kGrey, kGround, kInk, kUnit};
 
 } // namespace
 
+CUnitButton::CUnitButton(QWidget* parent)
+    : QPushButton(parent)
+{
+    setFixedSize(kSize);
+}
+
 CUnitButton::CUnitButton(const QString& text, const QString& unit, QWidget*)
 {
     setFixedSize(kSize);

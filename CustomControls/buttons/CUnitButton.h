@@ -9,7 +9,8 @@
  * A small tile, 48 by 26 pixels, with a value and, smaller, its unit: one of a row of presets. It paints everything
  * itself, so a style sheet doesn't reach it. The text of QPushButton stays empty.
  *
- * It is born without a parent, whatever its constructor is given: add it to a layout, which parents it.
+ * Made with value and unit it is born without a parent, whatever its constructor is given: add it to a layout, which
+ * parents it.
  *
  * @code
  * auto* preset = new CUnitButton(QStringLiteral("45"), QStringLiteral("°"), nullptr);
@@ -20,8 +21,14 @@
 class CUSTOMCONTROLS_EXPORT CUnitButton : public QPushButton
 {
     Q_OBJECT
+    /** Value and unit; the value stands in the place of the text of QAbstractButton. */
+    Q_PROPERTY(QString text MEMBER m_strText WRITE setText)
+    Q_PROPERTY(QString unit MEMBER m_strUnit WRITE setUnit)
 
 public:
+    /** The tile of a form, without value and unit; @p parent owns it and may be null. */
+    explicit CUnitButton(QWidget* parent = nullptr);
+
     /**
      * @param text   the value; value and unit together wider than 48 pixels are cut at both ends
      * @param unit   follows the value without a gap; may be empty

@@ -186,6 +186,13 @@ bool BearsTextImage(EnumButtonType type)
 
 } // namespace
 
+CVelmarButton::CVelmarButton(QWidget* parent)
+    : CVelmarButton(ButtonTypeTextChoose, false, true, BackgroundSolid, parent)
+{
+    SetButtonTextPos(0, 0, 0, 0, QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    SetButtonSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+}
+
 CVelmarButton::CVelmarButton(EnumButtonType type, bool vertical, bool iconFirst, int backgroundKind, QWidget* parent)
     : QPushButton(parent)
     , m_eType(type)
@@ -298,6 +305,13 @@ void CVelmarButton::SetButtonText(const QString& text, bool bold)
         font = GetFontWidthPxSizeAndWeight(PixelSize(font), weight);
     }
     m_pTextLabel->setFont(font);
+}
+
+void CVelmarButton::SetCaption(const QString& text)
+{
+    const QFont font = GetButtonTextFont();
+    SetButtonText(text, m_bBoldText);
+    SetTextFont(font);
 }
 
 void CVelmarButton::SetButtonFontSize(int pixelSize)

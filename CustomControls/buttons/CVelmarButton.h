@@ -55,8 +55,21 @@ struct StructGradientColor
 class CUSTOMCONTROLS_EXPORT CVelmarButton : public QPushButton
 {
     Q_OBJECT
+    /** The caption, which keeps its font; it stands in the place of the text of QAbstractButton. */
+    Q_PROPERTY(QString text READ GetButtonText WRITE SetCaption)
+    Q_PROPERTY(QFont textFont READ GetButtonTextFont WRITE SetTextFont)
+    Q_PROPERTY(int radius MEMBER m_iRadius WRITE SetBtnRadius)
+    Q_PROPERTY(bool chosen READ GetChooseFocusState WRITE SetChooseFocus)
 
 public:
+    /**
+     * The button of a form: its caption alone on solid colours, of any size, and it can be chosen. Forms call this one;
+     * a button with an icon is made by the other.
+     *
+     * @param parent the owner; may be null
+     */
+    explicit CVelmarButton(QWidget* parent = nullptr);
+
     /**
      * @param type           which labels show, and whether being chosen shows
      * @param vertical       true puts the icon above the text (60 by 40 at most), false beside it (80 by 40 at most)
@@ -175,6 +188,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void SetCaption(const QString& text);
     void InitButtonUI();
     void SetButtonStyle();
     void RedrawBackground(QPainter& painter);

@@ -29,6 +29,11 @@ void CVelmarAnimation::SetShowIntervalTime(int ms)
     m_pTimer->start(ms < 0 ? m_nInterval : ms);
 }
 
+int CVelmarAnimation::Interval() const
+{
+    return m_pTimer->interval();
+}
+
 void CVelmarAnimation::SlotShowTimeout()
 {
     // Without images the index counts on: a list that comes later shows from its beginning only once it is told to.

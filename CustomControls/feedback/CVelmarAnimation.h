@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 class QTimer;
 
@@ -21,6 +22,9 @@ class QTimer;
 class CUSTOMCONTROLS_EXPORT CVelmarAnimation : public QLabel
 {
     Q_OBJECT
+    Q_PROPERTY(QStringList images MEMBER m_strlistImage WRITE InsertImage)
+    /** In milliseconds; setting it starts with the first image. */
+    Q_PROPERTY(int interval READ Interval WRITE SetShowIntervalTime)
 
 public:
     /** Runs at 40 ms from the start, and shows nothing without images. */
@@ -46,6 +50,7 @@ private Q_SLOTS:
     void SlotShowTimeout();
 
 private:
+    int Interval() const;
     void UpdateShowImage();
 
     QTimer* m_pTimer;

@@ -16,6 +16,10 @@ const QString kCaptionSheetWithBar =
 
 } // namespace
 
+CSelectBox::CSelectBox(QWidget* parent)
+    : CSelectBox(QString(), false, QString(), parent)
+{}
+
 CSelectBox::CSelectBox(QString text, bool checked, QString hintText, QWidget* parent)
     : QWidget(parent)
     , ui(new Ui::CSelectBox)
@@ -54,6 +58,26 @@ void CSelectBox::SetCheckable(bool checkable)
 void CSelectBox::SetText(const QString& text)
 {
     ui->labelBox->setText(text);
+}
+
+QString CSelectBox::Text() const
+{
+    return ui->labelBox->text();
+}
+
+QString CSelectBox::HintText() const
+{
+    return ui->hintButton->property("hintText").toString();
+}
+
+bool CSelectBox::HasLeftBorder() const
+{
+    return ui->labelBox->styleSheet() == kCaptionSheetWithBar;
+}
+
+bool CSelectBox::IsCheckable() const
+{
+    return ui->btnBox->isCheckable();
 }
 
 void CSelectBox::SetHintText(const QString& text)

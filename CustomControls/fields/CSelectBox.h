@@ -25,8 +25,17 @@ class CSelectBox;
 class CUSTOMCONTROLS_EXPORT CSelectBox : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QString text READ Text WRITE SetText)
+    Q_PROPERTY(QString hintText READ HintText WRITE SetHintText)
+    Q_PROPERTY(bool leftBorder READ HasLeftBorder WRITE OpenLeftBorder)
+    Q_PROPERTY(bool checkable READ IsCheckable WRITE SetCheckable)
+    /** Not told when SetCheckable() takes it away. */
+    Q_PROPERTY(bool checked READ IsChecked WRITE SetChecked NOTIFY signalSelectBoxToggled USER true)
 
 public:
+    /** The row of a form: without caption and mark, switched off; @p parent owns it and may be null. */
+    explicit CSelectBox(QWidget* parent = nullptr);
+
     /**
      * @param text     the caption
      * @param checked  the switch at the start, without a signal
@@ -62,5 +71,10 @@ Q_SIGNALS:
     void signalSelectBoxToggled(bool checked);
 
 private:
+    QString Text() const;
+    QString HintText() const;
+    bool HasLeftBorder() const;
+    bool IsCheckable() const;
+
     Ui::CSelectBox* ui;
 };

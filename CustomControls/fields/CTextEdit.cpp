@@ -21,6 +21,10 @@ bool IsKeyEvent(const QEvent* event)
 
 } // namespace
 
+CTextEdit::CTextEdit(QWidget* parent)
+    : CTextEdit(parent, QString(), QString(), QString(), 0.0)
+{}
+
 CTextEdit::CTextEdit(QWidget* parent, QString name, QString defaultValue, QString unit, double mainWidth)
     : QWidget(parent)
     , ui(new Ui::CTextEdit)
@@ -147,6 +151,56 @@ void CTextEdit::SetFixedHeight(int height)
 QLabel* CTextEdit::GetNameLabel()
 {
     return ui->m_labelName;
+}
+
+QString CTextEdit::Name() const
+{
+    return ui->m_labelName->text();
+}
+
+void CTextEdit::SetName(const QString& name)
+{
+    ui->m_labelName->setText(name);
+}
+
+QString CTextEdit::Unit() const
+{
+    return ui->m_labelUnit->text();
+}
+
+void CTextEdit::SetUnit(const QString& unit)
+{
+    ui->m_labelUnit->setText(unit);
+}
+
+int CTextEdit::MainWidth() const
+{
+    return ui->main->minimumWidth() == ui->main->maximumWidth() ? ui->main->minimumWidth() : 0;
+}
+
+int CTextEdit::Decimals() const
+{
+    return ui->lineEdit->decimals();
+}
+
+double CTextEdit::Minimum() const
+{
+    return ui->lineEdit->minimum();
+}
+
+void CTextEdit::SetMinimum(double minimum)
+{
+    SetRange(minimum, Maximum());
+}
+
+double CTextEdit::Maximum() const
+{
+    return ui->lineEdit->maximum();
+}
+
+void CTextEdit::SetMaximum(double maximum)
+{
+    SetRange(Minimum(), maximum);
 }
 
 bool CTextEdit::IsInRange(double value) const

@@ -27,8 +27,22 @@ class CTextEdit;
 class CUSTOMCONTROLS_EXPORT CTextEdit : public QWidget
 {
     Q_OBJECT
+    /** The text of GetNameLabel(). */
+    Q_PROPERTY(QString name READ Name WRITE SetName)
+    Q_PROPERTY(QString unit READ Unit WRITE SetUnit)
+    /** The width of the white box, see SetMainWidgetWidth(); 0 while it grows with the field. */
+    Q_PROPERTY(int mainWidth READ MainWidth WRITE SetMainWidgetWidth)
+    Q_PROPERTY(int decimals READ Decimals WRITE SetDecimals)
+    /** The two ends of SetRange(), one at a time. A minimum above the maximum takes that along. */
+    Q_PROPERTY(double minimum READ Minimum WRITE SetMinimum)
+    Q_PROPERTY(double maximum READ Maximum WRITE SetMaximum)
+    Q_PROPERTY(double defaultValue READ DefaultValue WRITE SetDefaultValue)
+    Q_PROPERTY(double value READ GetEditData WRITE SetValue USER true)
 
 public:
+    /** The field of a form: 0, without name and unit; @p parent owns it and may be null. */
+    explicit CTextEdit(QWidget* parent = nullptr);
+
     /**
      * @param parent       the owner; may be null
      * @param name         the name on the left
@@ -105,6 +119,16 @@ Q_SIGNALS:
     void SignalEditDataChanged();
 
 private:
+    QString Name() const;
+    void SetName(const QString& name);
+    QString Unit() const;
+    void SetUnit(const QString& unit);
+    int MainWidth() const;
+    int Decimals() const;
+    double Minimum() const;
+    void SetMinimum(double minimum);
+    double Maximum() const;
+    void SetMaximum(double maximum);
     bool IsInRange(double value) const;
 
     Ui::CTextEdit* ui;

@@ -132,6 +132,29 @@ void CComboBox::AddComboItem(const QString& text)
     }
 }
 
+QStringList CComboBox::Items() const
+{
+    return m_listItems;
+}
+
+void CComboBox::SetItems(const QStringList& texts)
+{
+    RemoveAllItems();
+    for (const QString& text : texts) {
+        AddComboItem(text);
+    }
+}
+
+QSize CComboBox::BoxSize() const
+{
+    return {m_iBoxWidth, m_iBoxHeight};
+}
+
+void CComboBox::SetBothSizes(const QSize& size)
+{
+    SetBoxSize(size.width(), size.height(), 0);
+}
+
 void CComboBox::RemoveItem(const QString& text)
 {
     const int index = int(m_listItems.indexOf(text));

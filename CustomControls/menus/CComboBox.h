@@ -6,7 +6,9 @@
 #include <QFont>
 #include <QList>
 #include <QPoint>
+#include <QSize>
 #include <QString>
+#include <QStringList>
 
 class CVelmarMenu;
 
@@ -35,6 +37,12 @@ class CComboBox;
 class CUSTOMCONTROLS_EXPORT CComboBox : public QComboBox
 {
     Q_OBJECT
+    /** All entries at once; setting it makes the first one current. */
+    Q_PROPERTY(QStringList items READ Items WRITE SetItems)
+    Q_PROPERTY(int maxItemCount MEMBER m_iMaxItemCount WRITE SetMaxItemCount)
+    /** Fixes box and list, whose rows get the box's height. */
+    Q_PROPERTY(QSize boxSize READ BoxSize WRITE SetBothSizes)
+    Q_PROPERTY(QFont listFont MEMBER m_fontList WRITE SetComboListFont)
 
 public:
     /** @param parent not null as a rule; with null the list joins the box's window when it first opens */
@@ -89,6 +97,10 @@ private Q_SLOTS:
     void SlotChangeItem();
 
 private:
+    QStringList Items() const;
+    void SetItems(const QStringList& texts);
+    QSize BoxSize() const;
+    void SetBothSizes(const QSize& size);
     void SetToolkitPopUpApart();
     void AddListItem(const QString& text);
     void AppendEntry(const QString& text);

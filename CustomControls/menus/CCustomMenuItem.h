@@ -26,6 +26,9 @@ class CCustomMenuItem;
 class CUSTOMCONTROLS_EXPORT CCustomMenuItem : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QString text READ text WRITE SetText)
+    Q_PROPERTY(bool iconVisible READ IsIconVisible WRITE SetIconVisible)
+    Q_PROPERTY(int buttonId READ GetButtonId WRITE SetButtonId)
 
 public:
     /**

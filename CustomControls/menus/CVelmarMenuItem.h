@@ -26,6 +26,7 @@ class CVelmarMenuItem;
 class CUSTOMCONTROLS_EXPORT CVelmarMenuItem : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QString text READ text WRITE SetText)
 
 public:
     /**

@@ -28,6 +28,7 @@ class QToolButton;
 class CUSTOMCONTROLS_EXPORT CToolBar : public QToolBar
 {
     Q_OBJECT
+    Q_PROPERTY(bool splitLastWordMode READ IsSplitLastWordMode WRITE SetSplitLastWordMode)
 
 public:
     /** The heights of a bar. */

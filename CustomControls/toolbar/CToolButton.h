@@ -27,6 +27,8 @@ class QPainter;
 class CUSTOMCONTROLS_EXPORT CToolButton : public QToolButton
 {
     Q_OBJECT
+    Q_PROPERTY(int sharedWidth MEMBER m_nSharedWidth WRITE SetSharedWidth)
+    Q_PROPERTY(int sharedTextLines READ SharedTextLines WRITE SetSharedTextLines)
 
 public:
     /** Makes a button without icon and caption; @p parent owns it and may be null. */

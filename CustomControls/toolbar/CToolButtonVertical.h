@@ -18,6 +18,7 @@
 class CUSTOMCONTROLS_EXPORT CToolButtonVertical : public CToolButton
 {
     Q_OBJECT
+    Q_PROPERTY(int groupWidth MEMBER m_nGroupWidth WRITE SetGroupWidth)
 
 public:
     /** Makes a button without icon and caption; @p parent owns it and may be null. */
