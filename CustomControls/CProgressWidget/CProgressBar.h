@@ -24,6 +24,7 @@ class CUSTOMCONTROLS_EXPORT CProgressBar : public QProgressBar
     Q_PROPERTY(bool percentageVisible MEMBER m_bTextVisible WRITE SetTextVisible)
     /** The two colours of SetColor(), which show when the bar is next painted. */
     Q_PROPERTY(QColor emptyTextColor MEMBER m_colorEmpty)
+    /** See emptyTextColor. */
     Q_PROPERTY(QColor filledTextColor MEMBER m_colorFilled)
 
 public:
