@@ -82,13 +82,15 @@ CCustomMenu::~CCustomMenu()
         line->disconnect(this);
     }
     QList<QPointer<CCustomMenu>> subMenus;
-    for (CCustomMenu* subMenu : std::as_const(m_hashSubMenus)) {
+    const QList<CCustomMenu*> allSubMenus = GetCustomMenus();
+    for (CCustomMenu* subMenu : allSubMenus) {
         subMenu->disconnect(this);
         subMenu->m_pParentMenu = nullptr;
         subMenus.append(subMenu);
     }
     const QPointer<CCustomMenu> open(m_pOpenSubMenu);
     m_hashSubMenus.clear();
+    m_listRowlessSubMenus.clear();
     m_pOpenSubMenu = nullptr;
     if (open) {
         open->hide();
@@ -327,12 +329,13 @@ CCustomMenu* CCustomMenu::GetCustomMenu(CCustomMenuItem* item) const
 
 QList<CCustomMenu*> CCustomMenu::GetCustomMenus() const
 {
-    return m_hashSubMenus.values();
+    return m_hashSubMenus.values() + m_listRowlessSubMenus;
 }
 
 bool CCustomMenu::HasFocus()
 {
-    return hasFocus() || std::any_of(m_hashSubMenus.cbegin(), m_hashSubMenus.cend(),
+    const QList<CCustomMenu*> subMenus = GetCustomMenus();
+    return hasFocus() || std::any_of(subMenus.cbegin(), subMenus.cend(),
                                      [](const CCustomMenu* subMenu) { return subMenu->hasFocus(); });
 }
 
@@ -400,10 +403,9 @@ CCustomMenuItem* CCustomMenu::AddRow(const QString& text, const QString& shortcu
 {
     // Made where the layout would put it anyway: to move a row with its labels costs as much as to make it.
     auto* row = new CCustomMenuItem(ui->m_widgetMenu, text, shortcut, icon, iconHover, iconDisabled, hasSubMenu);
-    // A sub-menu outlives its row. That of a row which once lay at the same address is not this one's; it is kept under
-    // its own address, where no row can be.
-    if (CCustomMenu* orphan = m_hashSubMenus.take(row)) {
-        m_hashSubMenus.insert(reinterpret_cast<CCustomMenuItem*>(orphan), orphan);
+    // A sub-menu outlives its row. That of a row which once lay at the same address is not this one's.
+    if (CCustomMenu* rowless = m_hashSubMenus.take(row)) {
+        m_listRowlessSubMenus.append(rowless);
     }
     if (!hasSubMenu) {
         connect(row, &CCustomMenuItem::SignalMenuItemClicked, this, [this, row] { ItemClicked(row); });
@@ -508,6 +510,7 @@ void CCustomMenu::SubMenuGone(CCustomMenu* subMenu)
         m_pOpenSubMenu = nullptr;
     }
     m_hashSubMenus.removeIf([subMenu](const auto& entry) { return entry.value() == subMenu; });
+    m_listRowlessSubMenus.removeOne(subMenu);
 }
 
 void CCustomMenu::OpenSubMenu(CCustomMenuItem* item, CCustomMenu* subMenu)

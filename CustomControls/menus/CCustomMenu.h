@@ -174,4 +174,5 @@ private:
     CCustomMenu* m_pParentMenu = nullptr;
 
     QList<QPointer<QWidget>> m_listNewEntries;
+    QList<CCustomMenu*> m_listRowlessSubMenus;
 };
