@@ -14,7 +14,10 @@
 #include <QLocale>
 #include <QSaveFile>
 #include <QStandardPaths>
+#include <QtEndian>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
 #include <optional>
@@ -23,11 +26,30 @@ namespace {
 
 constexpr qint64 kLargestFile = qint64(16) * 1024 * 1024;
 
+// The toolkit reads a value within a value by a call within a call: a damaged file could fill the stack so. Lists and
+// maps are JSON here, whose depth is limited, and no honest one comes otherwise.
+constexpr qsizetype kLargestNest = 4096;
+constexpr std::array<int, 6> kNestingTypes = {QMetaType::QVariant,     QMetaType::QVariantList, QMetaType::QVariantMap,
+                                              QMetaType::QVariantHash, QMetaType::QVariantPair, QMetaType::QTextFormat};
+
 // JSON has one kind of number, so what would come back as something else is wrapped in an object that names its type.
 const QString kTagDouble = QStringLiteral("double");
 const QString kTagStrings = QStringLiteral("strings");
 const QString kTagMap = QStringLiteral("map");
+const QString kTagHash = QStringLiteral("hash");
 const QString kTagOther = QStringLiteral("variant");
+
+QJsonValue ToJson(const QVariant& value);
+
+template <typename Entries>
+QJsonObject EntriesToJson(const Entries& entries)
+{
+    QJsonObject object;
+    for (auto it = entries.begin(); it != entries.end(); ++it) {
+        object.insert(it.key(), ToJson(it.value()));
+    }
+    return object;
+}
 
 QJsonValue ToJson(const QVariant& value)
 {
@@ -54,14 +76,10 @@ QJsonValue ToJson(const QVariant& value)
         }
         return array;
     }
-    case QMetaType::QVariantMap: {
-        QJsonObject object;
-        const QVariantMap map = value.toMap();
-        for (auto it = map.begin(); it != map.end(); ++it) {
-            object.insert(it.key(), ToJson(it.value()));
-        }
-        return QJsonObject{{kTagMap, object}};
-    }
+    case QMetaType::QVariantMap:
+        return QJsonObject{{kTagMap, EntriesToJson(value.toMap())}};
+    case QMetaType::QVariantHash:
+        return QJsonObject{{kTagHash, EntriesToJson(value.toHash())}};
     case QMetaType::UnknownType:
         return QJsonValue::Null;
     default: {
@@ -72,6 +90,18 @@ QJsonValue ToJson(const QVariant& value)
         return QJsonObject{{kTagOther, QString::fromLatin1(bytes.toBase64())}};
     }
     }
+}
+
+QVariant FromJson(const QJsonValue& json);
+
+template <typename Entries>
+Entries EntriesFromJson(const QJsonObject& object)
+{
+    Entries entries;
+    for (auto it = object.begin(); it != object.end(); ++it) {
+        entries.insert(it.key(), FromJson(it.value()));
+    }
+    return entries;
 }
 
 QVariant FromJson(const QJsonValue& json)
@@ -101,15 +131,20 @@ QVariant FromJson(const QJsonValue& json)
         return object.value(kTagStrings).toVariant().toStringList();
     }
     if (object.contains(kTagMap)) {
-        QVariantMap map;
-        const QJsonObject entries = object.value(kTagMap).toObject();
-        for (auto it = entries.begin(); it != entries.end(); ++it) {
-            map.insert(it.key(), FromJson(it.value()));
+        return EntriesFromJson<QVariantMap>(object.value(kTagMap).toObject());
+    }
+    if (object.contains(kTagHash)) {
+        return EntriesFromJson<QVariantHash>(object.value(kTagHash).toObject());
+    }
+    const QByteArray bytes = QByteArray::fromBase64(object.value(kTagOther).toString().toLatin1());
+    if (bytes.size() > kLargestNest) {
+        const auto type = qFromBigEndian<qint32>(bytes.constData());
+        if (std::find(kNestingTypes.begin(), kNestingTypes.end(), type) != kNestingTypes.end()) {
+            return {};
         }
-        return map;
     }
     QVariant other;
-    QDataStream stream(QByteArray::fromBase64(object.value(kTagOther).toString().toLatin1()));
+    QDataStream stream(bytes);
     stream.setVersion(QDataStream::Qt_6_4);
     stream >> other;
     return stream.status() == QDataStream::Ok ? other : QVariant();
@@ -152,7 +187,7 @@ struct CorvaneTextHelper::Private
         QFile file(info.filePath());
         QJsonDocument document;
         if (info.size() <= kLargestFile && file.open(QIODevice::ReadOnly)) {
-            document = QJsonDocument::fromJson(file.read(kLargestFile));
+            document = QJsonDocument::fromJson(file.read(info.size())); // a reading reserves what it asks for
         }
         if (!document.isObject()) {
             m_bForeign = true;

@@ -97,7 +97,8 @@ public:
         if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
             return Fail(Text("无法读取文件"));
         }
-        const QByteArray bytes = file.read(kLargestFile + 1);
+        // As much as is there: a reading reserves what it asks for.
+        const QByteArray bytes = file.read(qMin(file.size(), kLargestFile) + 1);
         if (bytes.size() > kLargestFile) {
             return Fail(Text("文件超过 %1 MiB").arg(kLargestFile / 1024 / 1024));
         }

@@ -2,6 +2,11 @@
 # Runs what takes too long for every change; hours in all. Without arguments every step, else those that are named:
 #   asan      the long tests under the sanitizers
 #   release   the long tests as hosts run the library
+#   memcheck  a subset of the unit tests under valgrind
+#   tsan      what works on several threads under the thread sanitizer
+#   coverage  the lines that the tests reach
+#   clang     everything built by Clang, whose warnings are errors
+#   fuzz      ten minutes for each fuzz target
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
@@ -22,8 +27,17 @@ long_tests() { # preset
 # Each step ends with a line that counts what passed, failed and was skipped, and fails when something did.
 step_asan() { long_tests asan; }
 step_release() { long_tests release; }
+step_memcheck() { scripts/memcheck.sh; }
+step_tsan() { scripts/tsan.sh; }
+step_coverage() { scripts/coverage.sh; }
+step_clang() {
+    require_packages "${PACKAGES_BUILD[@]}" "${PACKAGES_TEST[@]}" "${PACKAGES_FUZZ[@]}"
+    build_preset clang
+    echo "1 passed, 0 failed, 0 skipped"
+}
+step_fuzz() { scripts/fuzz.sh --seconds 600; }
 
-steps=(asan release)
+steps=(asan release memcheck tsan coverage clang fuzz)
 [ $# -eq 0 ] || steps=("$@")
 for step in "${steps[@]}"; do
     declare -F "step_$step" >/dev/null || { sed -n '2,/^set /{/^set /!s/^# \{0,1\}//p}' "$0"; exit 2; }

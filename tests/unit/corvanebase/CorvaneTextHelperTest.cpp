@@ -43,6 +43,7 @@ private Q_SLOTS:
     void fileThatIsNoSettingsFileIsKeptAside();
     void hugeFileIsNotRead();
     void foreignEntriesAreIgnored();
+    void valuesWithinValuesFillNoStack();
     void valueHoldsForTheRunWhereItCannotBeWritten_data();
     void valueHoldsForTheRunWhereItCannotBeWritten();
     void oldFileStaysWhereTheNewOneCannotBeWritten();
@@ -181,6 +182,7 @@ void CorvaneTextHelperTest::valuesComeBackWithTheirType_data()
     QTest::newRow("strings") << QVariant(QStringList({"a", "b"}));
     QTest::newRow("list") << QVariant(QVariantList({1, 2.0, true, "x", QVariantList({3})}));
     QTest::newRow("map") << QVariant(QVariantMap({{"double", 1}, {"b", QSize(1, 2)}}));
+    QTest::newRow("hash") << QVariant(QVariantHash({{"map", 1}, {"b", 2.0}}));
     QTest::newRow("bytes") << QVariant(QByteArray("\x00\xff", 2));
     QTest::newRow("size") << QVariant(QSize(3, 4));
 }
@@ -279,6 +281,16 @@ void CorvaneTextHelperTest::foreignEntriesAreIgnored()
     for (const char* key : {"null", "foreign", "broken"}) {
         QCOMPARE(Get(QLatin1String(key), "default"), QVariant("default"));
     }
+}
+
+void CorvaneTextHelperTest::valuesWithinValuesFillNoStack()
+{
+    // Lists of one list each, as the toolkit writes them.
+    const QByteArray level = QByteArray::fromHex("000000090000000001");
+    const QByteArray bytes = level.repeated(200000).toBase64();
+    Write(Path(), "{\"1\":{\"nest\":{\"variant\":\"" + bytes + "\"},\"ok\":7}}");
+    QCOMPARE(Get("nest", "default"), QVariant("default"));
+    QCOMPARE(Get("ok"), QVariant(7));
 }
 
 void CorvaneTextHelperTest::valueHoldsForTheRunWhereItCannotBeWritten_data()

@@ -209,6 +209,7 @@ void CDelegateTableViewItemTest::painterKeepsItsState()
 {
     m_model.setData(m_model.index(0, 1), QStringLiteral("HHH"), Qt::DisplayRole);
     QImage image(260, 60, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
     QPainter painter(&image);
     const QPen pen = painter.pen();
     const QFont font = painter.font();

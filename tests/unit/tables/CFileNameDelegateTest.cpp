@@ -226,6 +226,7 @@ void CFileNameDelegateTest::narrowCellDoesNotFail()
 void CFileNameDelegateTest::painterKeepsItsState()
 {
     QImage image(320, 80, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
     QPainter painter(&image);
     const QPen pen = painter.pen();
     const QFont font = painter.font();

@@ -1,0 +1,60 @@
+#include <tests/fuzz/FuzzTarget.h>
+
+#include <CustomControls/buttons/CHintButton.h>
+
+#include <QFontMetrics>
+
+// The caption of a wrapped button: a byte for its width, one for its height, then the text in UTF-8. What is shown is
+// the text with line breaks put in, and with an ellipsis at its end where it doesn't fit.
+
+void FuzzOne(FuzzInput& input)
+{
+    static CHintButton button;
+    const int width = input.Byte();
+    const int height = input.Byte();
+    const QString text = QString::fromUtf8(input.Rest());
+
+    button.SetAutoWrap(true);
+    button.setMinimumSize(0, 0);
+    button.setMaximumSize(width, height);
+    button.resize(width, height);
+    button.setText(text);
+    const QString shown = button.text();
+    FUZZ_CHECK(shown == button.BuildDisplayText());
+    FUZZ_CHECK(shown.isValidUtf16());
+
+    const QFontMetrics metrics = button.fontMetrics();
+    const int most = qMax(1, height / metrics.lineSpacing());
+    qsizetype raw = 0;
+    qsizetype start = 0;
+    int lines = 1;
+    for (qsizetype i = 0; i < shown.size(); ++i) {
+        if (raw < text.size() && shown.at(i) == text.at(raw)) {
+            ++raw;
+            continue;
+        }
+        if (shown.at(i) == QLatin1Char('\n')) {
+            ++lines;
+            // A single character stands alone however wide it is. A text with breaks of its own hides which is which.
+            const QString line = shown.mid(start, i - start);
+            FUZZ_CHECK(text.contains(QLatin1Char('\n')) || line.toUcs4().size() == 1 ||
+                       metrics.horizontalAdvance(line) <= width);
+            start = i + 1;
+            continue;
+        }
+        // Cut short: the ellipsis ends the last line that there is room for.
+        FUZZ_CHECK(shown.at(i) == QChar(0x2026) && i == shown.size() - 1 && lines == most);
+        raw = text.size();
+    }
+    // Where the text holds an ellipsis itself, the one that cuts it short may look like it.
+    FUZZ_CHECK(raw == text.size() || (shown.endsWith(QChar(0x2026)) && lines == most));
+    FUZZ_CHECK(lines <= most);
+
+    // The same text again is the same caption, and switching off shows the text itself from then on.
+    button.RefreshDisplay();
+    FUZZ_CHECK(button.text() == shown);
+    button.SetAutoWrap(false);
+    button.setText(text);
+    FUZZ_CHECK(button.text() == text);
+    FuzzSettle();
+}
