@@ -2,10 +2,10 @@
 
 #include "GalleryStyle.h"
 #include "OverflowMenu.h"
+#include "machine/CurrentMachine.h"
 
 #include <CorvaneBase/CDebugLog.h>
 #include <CorvaneBase/CorvaneFonts.h>
-#include <CorvaneBase/CorvaneRegisterHelper.h>
 #include <CorvaneBase/CorvaneSignalHelper.h>
 #include <CustomControls/CToolBarStyle.h>
 #include <CustomControls/feedback/ToastWidget.h>
@@ -71,8 +71,27 @@ GalleryRibbon::GalleryRibbon(QWidget* parent)
     AddHelpTab();
     // Each tab is a row of its own, and the rows are to be of one height, or the pages would jump with the tabs.
     CToolBarItem::UnifyBlocksHeight(findChildren<CToolBarItem*>());
-    connect(this, &QTabWidget::currentChanged, this, [this] { delete std::exchange(m_pReason, nullptr); });
-    connect(m_pReasonTimer, &QTimer::timeout, this, [this] { delete std::exchange(m_pReason, nullptr); });
+    connect(this, &QTabWidget::currentChanged, this, [this] { delete m_pReason; });
+    connect(m_pReasonTimer, &QTimer::timeout, this, [this] { delete m_pReason; });
+}
+
+GalleryRibbon::~GalleryRibbon()
+{
+    delete m_pReason; // the window's child, and about a tool of this ribbon
+}
+
+void GalleryRibbon::TakeOver(const GalleryRibbon& other)
+{
+    setCurrentIndex(other.currentIndex());
+    m_bSilent = true;
+    for (auto tool = m_tools.cbegin(); tool != m_tools.cend(); ++tool) {
+        const CToolButton* before = other.m_tools.value(tool.key());
+        tool.value()->setEnabled(before->isEnabled());
+        if (before->isChecked()) {
+            tool.value()->click(); // its block is to know of it too
+        }
+    }
+    m_bSilent = false;
 }
 
 void GalleryRibbon::AddHomeTab()
@@ -109,12 +128,11 @@ void GalleryRibbon::AddHomeTab()
 
     const QList<const char*> needMachine = {"send", "origin", "probe"};
     Disable(needMachine, tr("请先连接机床。"));
-    connect(CorvaneRegisterHelper::instance(), &CorvaneRegisterHelper::signalCurrentMachineChanged, this,
-            [this, needMachine](bool connected) {
-                for (const char* name : needMachine) {
-                    Tool(name)->setEnabled(connected);
-                }
-            });
+    connect(CurrentMachine::instance(), &CurrentMachine::SignalChanged, this, [this, needMachine] {
+        for (const char* name : needMachine) {
+            Tool(name)->setEnabled(CurrentMachine::instance()->IsConnected());
+        }
+    });
 }
 
 void GalleryRibbon::AddModelTab()
@@ -334,7 +352,10 @@ void GalleryRibbon::Disable(const QList<const char*>& names, const QString& reas
 
 void GalleryRibbon::Report(const QString& text) const
 {
-    Q_EMIT CorvaneSignalHelper::instance()->signalFilePluginAppendLog(text, QColor(QLatin1String(GalleryStyle::Ink)));
+    if (!m_bSilent) {
+        Q_EMIT CorvaneSignalHelper::instance()->signalFilePluginAppendLog(text,
+                                                                          QColor(QLatin1String(GalleryStyle::Ink)));
+    }
 }
 
 void GalleryRibbon::ShowReason(const QString& reason)

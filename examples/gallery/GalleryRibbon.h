@@ -5,6 +5,7 @@
 #include <QHash>
 #include <QList>
 #include <QPair>
+#include <QPointer>
 #include <QStringList>
 
 #include <functional>
@@ -33,6 +34,10 @@ class GalleryRibbon : public CTabToolWidget
 
 public:
     explicit GalleryRibbon(QWidget* parent = nullptr);
+    ~GalleryRibbon() override;
+
+    /** Takes the open tab, the checked tool and what is enabled from the ribbon that stood in its place. */
+    void TakeOver(const GalleryRibbon& other);
 
 Q_SIGNALS:
     /** The user wants the page of that name. */
@@ -68,6 +73,7 @@ private:
     QStringList m_names; ///< of the tools that the block has, in the order in which they are described
     QHash<QString, CToolButton*> m_tools;
     QList<CToolButton*> m_checkable;
-    ToastWidget* m_pReason = nullptr;
+    QPointer<ToastWidget> m_pReason;
     QTimer* m_pReasonTimer;
+    bool m_bSilent = false; ///< nothing is reported: no user clicks
 };

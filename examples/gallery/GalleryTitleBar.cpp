@@ -1,7 +1,6 @@
 #include "GalleryTitleBar.h"
 
 #include <CorvaneBase/CorvaneFonts.h>
-#include <CustomControls/buttons/CVelmarButton.h>
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -12,8 +11,10 @@ namespace {
 constexpr int BarHeight = 48;
 constexpr int MarkSize = 26;
 constexpr int ButtonWidth = 46;
+constexpr int TextButtonWidth = 76;
 constexpr int IconSize = 16;
 constexpr auto BarSheet = "#galleryTitleBar{background:#2b2f33;}";
+const QString TextColor = QStringLiteral("#e6e9ec");
 const QColor Band(0x2b, 0x2f, 0x33);
 const QColor BandHover(0x40, 0x46, 0x4c);
 const QColor BandPressed(0x55, 0x5d, 0x64);
@@ -25,12 +26,22 @@ void SetIcon(CVelmarButton* button, const QString& icon)
     const QString image = QStringLiteral("url(:/gallery/%1.png)").arg(icon);
     button->SetButtonIcon(image, image, image, image);
 }
+
+void SetTip(CVelmarButton* button, const QString& tip)
+{
+    if (button) {
+        button->setToolTip(tip);
+        button->setAccessibleName(tip);
+    }
+}
 } // namespace
 
-GalleryTitleBar::GalleryTitleBar(QWidget* window, int buttons, const QString& subtitle)
+GalleryTitleBar::GalleryTitleBar(QWidget* window, int buttons)
     : QWidget(window)
     , m_pWindow(window)
     , m_pTitle(new QLabel(window->windowTitle()))
+    , m_pSubtitle(new QLabel)
+    , m_pLayout(new QHBoxLayout(this))
 {
     setObjectName(QStringLiteral("galleryTitleBar"));
     setAttribute(Qt::WA_StyledBackground);
@@ -41,40 +52,51 @@ GalleryTitleBar::GalleryTitleBar(QWidget* window, int buttons, const QString& su
     mark->setPixmap(QIcon(QStringLiteral(":/gallery/app.png")).pixmap(MarkSize, MarkSize));
     m_pTitle->setFont(FontCnBold_16);
     m_pTitle->setStyleSheet(QStringLiteral("color:#ffffff;background:transparent;"));
-    auto* detail = new QLabel(subtitle);
-    detail->setFont(FontCn_14);
-    detail->setStyleSheet(QStringLiteral("color:#b8bec4;background:transparent;"));
+    m_pSubtitle->setFont(FontCn_14);
+    m_pSubtitle->setStyleSheet(QStringLiteral("color:#b8bec4;background:transparent;"));
 
-    auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(20, 0, 0, 0);
-    layout->setSpacing(0);
-    for (QLabel* label : {mark, m_pTitle, detail}) {
+    m_pLayout->setContentsMargins(20, 0, 0, 0);
+    m_pLayout->setSpacing(0);
+    for (QLabel* label : {mark, m_pTitle, m_pSubtitle}) {
         // A visible child would take the mouse from the bar, which could no longer be gripped there.
         label->setAttribute(Qt::WA_TransparentForMouseEvents);
-        layout->addWidget(label);
-        layout->addSpacing(12);
+        m_pLayout->addWidget(label);
+        m_pLayout->addSpacing(12);
     }
-    layout->addStretch(1);
+    m_pLayout->addStretch(1);
     if (buttons & ButtonMinimize) {
-        CVelmarButton* minimize =
-            CreateButton(QStringLiteral("titleMinimize"), QStringLiteral("title_minimize"), tr("最小化"), false);
-        connect(minimize, &CVelmarButton::SignalClicked, window, &QWidget::showMinimized);
-        layout->addWidget(minimize);
+        m_pMinimize = CreateButton(QStringLiteral("titleMinimize"));
+        SetIcon(m_pMinimize, QStringLiteral("title_minimize"));
+        connect(m_pMinimize, &CVelmarButton::SignalClicked, window, &QWidget::showMinimized);
     }
     if (buttons & ButtonMaximize) {
-        m_pMaximize = CreateButton(QStringLiteral("titleMaximize"), QString(), QString(), false);
+        m_pMaximize = CreateButton(QStringLiteral("titleMaximize"));
         connect(m_pMaximize, &CVelmarButton::SignalClicked, this, &GalleryTitleBar::ToggleMaximized);
-        layout->addWidget(m_pMaximize);
-        FollowState();
     }
     if (buttons & ButtonClose) {
-        CVelmarButton* close =
-            CreateButton(QStringLiteral("titleClose"), QStringLiteral("title_close"), tr("关闭"), true);
-        connect(close, &CVelmarButton::SignalClicked, window, &QWidget::close);
-        layout->addWidget(close);
+        m_pClose = CreateButton(QStringLiteral("titleClose"), ButtonTypeIcon, true);
+        SetIcon(m_pClose, QStringLiteral("title_close"));
+        connect(m_pClose, &CVelmarButton::SignalClicked, window, &QWidget::close);
     }
+    for (CVelmarButton* button : {m_pMinimize, m_pMaximize, m_pClose}) {
+        if (button) {
+            m_pLayout->addWidget(button);
+            ++m_iOwnButtons;
+        }
+    }
+    Retranslate();
     connect(window, &QWidget::windowTitleChanged, m_pTitle, &QLabel::setText);
     window->installEventFilter(this);
+}
+
+void GalleryTitleBar::SetSubtitle(const QString& subtitle)
+{
+    m_pSubtitle->setText(subtitle);
+}
+
+void GalleryTitleBar::AddWidget(QWidget* widget)
+{
+    m_pLayout->insertWidget(m_pLayout->count() - m_iOwnButtons, widget);
 }
 
 void GalleryTitleBar::ToggleMaximized()
@@ -90,23 +112,38 @@ bool GalleryTitleBar::eventFilter(QObject* watched, QEvent* event)
     return QWidget::eventFilter(watched, event);
 }
 
-CVelmarButton* GalleryTitleBar::CreateButton(const QString& objectName, const QString& icon, const QString& tip,
-                                             bool closes)
+void GalleryTitleBar::changeEvent(QEvent* event)
 {
-    auto* button = new CVelmarButton(ButtonTypeIcon, false, true, 0, this);
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        Retranslate();
+    }
+}
+
+CVelmarButton* GalleryTitleBar::CreateButton(const QString& objectName, EnumButtonType type, bool closes)
+{
+    auto* button = new CVelmarButton(type, false, true, 0, this);
+    const int width = type == ButtonTypeText ? TextButtonWidth : ButtonWidth;
     button->setObjectName(objectName);
-    button->SetButtonSize(ButtonWidth, BarHeight);
-    button->setFixedSize(ButtonWidth, BarHeight);
+    button->SetButtonSize(width, BarHeight);
+    button->setFixedSize(width, BarHeight);
     button->setFocusPolicy(Qt::NoFocus);
     constexpr int side = (ButtonWidth - IconSize) / 2;
-    button->SetButtonImagePos(side, 0, side, 0, IconSize, BarHeight);
-    button->SetBackgroundSolid(Band, closes ? ClosePressed : BandPressed, closes ? CloseHover : BandHover, Band);
-    button->setToolTip(tip);
-    button->setAccessibleName(tip);
-    if (!icon.isEmpty()) {
-        SetIcon(button, icon);
+    if (type == ButtonTypeText) {
+        button->SetButtonTextPos(0, 0, 0, 0, width, BarHeight);
+        button->SetTextColor(TextColor, TextColor, TextColor, TextColor);
+    } else {
+        button->SetButtonImagePos(side, 0, side, 0, IconSize, BarHeight);
     }
+    button->SetBackgroundSolid(Band, closes ? ClosePressed : BandPressed, closes ? CloseHover : BandHover, Band);
     return button;
+}
+
+void GalleryTitleBar::Retranslate()
+{
+    SetTip(m_pMinimize, tr("最小化"));
+    SetTip(m_pClose, tr("关闭"));
+    FollowState();
 }
 
 void GalleryTitleBar::FollowState()
@@ -116,7 +153,5 @@ void GalleryTitleBar::FollowState()
     }
     const bool maximized = m_pWindow->isMaximized();
     SetIcon(m_pMaximize, maximized ? QStringLiteral("title_restore") : QStringLiteral("title_maximize"));
-    const QString tip = maximized ? tr("向下还原") : tr("最大化");
-    m_pMaximize->setToolTip(tip);
-    m_pMaximize->setAccessibleName(tip);
+    SetTip(m_pMaximize, maximized ? tr("向下还原") : tr("最大化"));
 }

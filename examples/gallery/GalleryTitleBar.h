@@ -1,8 +1,10 @@
 #pragma once
 
+#include <CustomControls/buttons/CVelmarButton.h>
+
 #include <QWidget>
 
-class CVelmarButton;
+class QHBoxLayout;
 class QLabel;
 
 /**
@@ -31,21 +33,35 @@ public:
     /**
      * @param window   whose title is shown and whose state the buttons change; becomes the parent
      * @param buttons  bits of Button
-     * @param subtitle smaller, beside the title; may be empty
      */
-    explicit GalleryTitleBar(QWidget* window, int buttons = ButtonsAll, const QString& subtitle = QString());
+    explicit GalleryTitleBar(QWidget* window, int buttons = ButtonsAll);
+
+    /** Smaller, beside the title; may be empty. */
+    void SetSubtitle(const QString& subtitle);
+
+    /** A button in the look of the bar's own, without icon, text and tip; the caller adds it. */
+    CVelmarButton* CreateButton(const QString& objectName, EnumButtonType type = ButtonTypeIcon, bool closes = false);
+
+    /** Puts a widget before the buttons of the window. */
+    void AddWidget(QWidget* widget);
 
     /** Maximises the window, or restores it. */
     void ToggleMaximized();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
-    CVelmarButton* CreateButton(const QString& objectName, const QString& icon, const QString& tip, bool closes);
+    void Retranslate();
     void FollowState();
 
     QWidget* m_pWindow;
     QLabel* m_pTitle;
+    QLabel* m_pSubtitle;
+    QHBoxLayout* m_pLayout;
+    int m_iOwnButtons = 0; ///< how many items end the layout
+    CVelmarButton* m_pMinimize = nullptr;
     CVelmarButton* m_pMaximize = nullptr;
+    CVelmarButton* m_pClose = nullptr;
 };

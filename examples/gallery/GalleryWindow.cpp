@@ -1,58 +1,57 @@
 #include "GalleryWindow.h"
 
+#include "GalleryLanguage.h"
 #include "GalleryPage.h"
 #include "GalleryRibbon.h"
 #include "GalleryStyle.h"
 #include "GalleryTitleBar.h"
 #include "LogPane.h"
+#include "PageList.h"
 #include "PageRegistry.h"
 #include "StatusLine.h"
 
 #include <CorvaneBase/CDebugLog.h>
 #include <CorvaneBase/CorvaneFonts.h>
 #include <CorvaneBase/CorvaneSignalHelper.h>
+#include <CustomControls/buttons/CVelmarButton.h>
 #include <CustomControls/messagebox/CVelmarMessageBox.h>
 
 #include <QCoreApplication>
+#include <QEvent>
 #include <QHBoxLayout>
-#include <QListWidget>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include <memory>
+
 namespace {
-constexpr int ListWidth = 208;
-constexpr int RowHeight = 44;
-constexpr auto ListSheet =
-    "#pageList{background:#f6f6f6;border:none;border-right:1px solid #e2e2e2;outline:none;padding:16px 12px;}"
-    "#pageList::item{color:#333333;border-radius:6px;padding-left:14px;margin-bottom:4px;}"
-    "#pageList::item:hover{background:#e6ebe8;}"
-    "#pageList::item:selected{background:#188553;color:#ffffff;}";
+constexpr int RibbonPlace = 1; // below the title bar
 constexpr auto PageSheet = "#pageScroll,#pageScroll>#qt_scrollarea_viewport{background:#fbfbfb;border:none;}";
 } // namespace
 
 GalleryWindow::GalleryWindow(const GalleryOptions& options, QWidget* parent)
     : FramelessMainWindow(parent)
     , m_options(options)
-    , m_pPageList(new QListWidget)
+    , m_pPageList(new PageList)
     , m_pStack(new QStackedWidget)
 {
     setObjectName(QStringLiteral("galleryWindow"));
     setWindowTitle(QStringLiteral("CustomControls"));
     resize(QSize(1280, 900).boundedTo(screen()->availableSize()));
 
-    m_pPageList->setObjectName(QStringLiteral("pageList"));
-    m_pPageList->setFixedWidth(ListWidth);
-    m_pPageList->setFont(FontCn_15);
-    m_pPageList->setStyleSheet(QLatin1String(ListSheet));
-    m_pPageList->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    for (const PageEntry& page : GalleryPages()) {
-        auto* item = new QListWidgetItem(page.strTitle, m_pPageList);
-        item->setSizeHint(QSize(0, RowHeight));
+    for (qsizetype page = 0; page < GalleryPages().size(); ++page) {
         // Filled when the page is first opened, so that the window is up at once however many pages there are.
-        m_pStack->addWidget(new QScrollArea);
+        auto* scroll = new QScrollArea;
+        scroll->setObjectName(QStringLiteral("pageScroll"));
+        scroll->setStyleSheet(QLatin1String(PageSheet));
+        scroll->verticalScrollBar()->setStyleSheet(GalleryStyle::ScrollBars());
+        scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        scroll->setWidgetResizable(true);
+        m_pStack->addWidget(scroll);
     }
 
     auto* page = new QVBoxLayout;
@@ -63,22 +62,23 @@ GalleryWindow::GalleryWindow(const GalleryOptions& options, QWidget* parent)
     middle->setSpacing(0);
     middle->addWidget(m_pPageList);
     middle->addLayout(page, 1);
-    auto* titleBar = new GalleryTitleBar(this, GalleryTitleBar::ButtonsAll, tr("控件陈列室"));
-    setTitleBar(titleBar);
+    m_pTitleBar = new GalleryTitleBar(this, GalleryTitleBar::ButtonsAll);
+    m_pLanguage = CreateLanguageButton();
+    m_pTitleBar->AddWidget(m_pLanguage);
+    setTitleBar(m_pTitleBar);
     auto* central = new QWidget;
-    auto* layout = new QVBoxLayout(central);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(titleBar);
-    auto* ribbon = new GalleryRibbon;
-    layout->addWidget(ribbon);
-    layout->addLayout(middle, 1);
-    layout->addWidget(new StatusLine);
+    m_pLayout = new QVBoxLayout(central);
+    m_pLayout->setContentsMargins(0, 0, 0, 0);
+    m_pLayout->setSpacing(0);
+    m_pLayout->addWidget(m_pTitleBar);
+    m_pLayout->addLayout(middle, 1);
+    m_pLayout->addWidget(new StatusLine);
     setCentralWidget(central);
+    Retranslate();
 
-    connect(m_pPageList, &QListWidget::currentRowChanged, this, &GalleryWindow::ShowRow);
-    connect(ribbon, &GalleryRibbon::SignalOpenPage, this, &GalleryWindow::OpenPage);
-    m_pPageList->setCurrentRow(0);
+    connect(m_pPageList, &PageList::SignalPageOpened, this, &GalleryWindow::ShowPage);
+    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, m_pPageList, &PageList::FocusSearch);
+    m_pPageList->SetCurrentPage(0);
 
     CVelmarMessageBox::SetMainWindow(this);
     CorvaneSignalHelper* helper = CorvaneSignalHelper::instance();
@@ -95,33 +95,87 @@ GalleryWindow::GalleryWindow(const GalleryOptions& options, QWidget* parent)
 bool GalleryWindow::OpenPage(const QString& name)
 {
     const QList<PageEntry>& pages = GalleryPages();
-    for (int row = 0; row < pages.size(); ++row) {
-        if (pages.at(row).strName == name) {
-            m_pPageList->setCurrentRow(row);
+    for (int page = 0; page < pages.size(); ++page) {
+        if (pages.at(page).strName == name) {
+            m_pPageList->SetCurrentPage(page);
             return true;
         }
     }
     return false;
 }
 
-void GalleryWindow::ShowRow(int row)
+void GalleryWindow::SetLanguage(const QString& language)
 {
-    auto* scroll = qobject_cast<QScrollArea*>(m_pStack->widget(row));
+    if (language == QLatin1String("zh") || language == QLatin1String("en")) {
+        GalleryLanguage::Use(language == QLatin1String("zh"));
+    }
+}
+
+void GalleryWindow::changeEvent(QEvent* event)
+{
+    FramelessMainWindow::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        Retranslate();
+    }
+}
+
+CVelmarButton* GalleryWindow::CreateLanguageButton()
+{
+    CVelmarButton* button = m_pTitleBar->CreateButton(QStringLiteral("titleLanguage"), ButtonTypeText);
+    connect(button, &CVelmarButton::SignalClicked, this,
+            [this] { SetLanguage(GalleryLanguage::IsChinese() ? QStringLiteral("en") : QStringLiteral("zh")); });
+    return button;
+}
+
+void GalleryWindow::CreateRibbon()
+{
+    // Goes when the new one has taken over the state of its tools.
+    const std::unique_ptr<GalleryRibbon> old(m_pRibbon);
+    m_pRibbon = new GalleryRibbon;
+    m_pLayout->insertWidget(RibbonPlace, m_pRibbon);
+    connect(m_pRibbon, &GalleryRibbon::SignalOpenPage, this, &GalleryWindow::OpenPage);
+    if (old) {
+        m_pRibbon->TakeOver(*old);
+    }
+}
+
+void GalleryWindow::ShowPage(int page)
+{
+    auto* scroll = qobject_cast<QScrollArea*>(m_pStack->widget(page));
     if (!scroll) {
         return;
     }
     if (!scroll->widget()) {
-        const PageEntry& entry = GalleryPages().at(row);
-        GalleryPage* page = entry.create(m_options);
-        page->setObjectName(QStringLiteral("page-") + entry.strName);
-        page->SetHeading(entry.strTitle, entry.strPurpose);
-        scroll->setObjectName(QStringLiteral("pageScroll"));
-        scroll->setStyleSheet(QLatin1String(PageSheet));
-        scroll->verticalScrollBar()->setStyleSheet(GalleryStyle::ScrollBars());
-        scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        scroll->setWidgetResizable(true);
-        scroll->setWidget(page);
-        page->setAutoFillBackground(false);
+        const PageEntry& entry = GalleryPages().at(page);
+        GalleryPage* content = entry.create(m_options);
+        content->setObjectName(QStringLiteral("page-") + entry.strName);
+        content->SetHeading(entry.Title(), entry.Purpose());
+        scroll->setWidget(content);
+        content->setAutoFillBackground(false);
     }
-    m_pStack->setCurrentIndex(row);
+    m_pStack->setCurrentIndex(page);
+}
+
+void GalleryWindow::Retranslate()
+{
+    m_pTitleBar->SetSubtitle(tr("控件陈列室"));
+    // The other language in its own words, so that whoever cannot read this one finds the way.
+    m_pLanguage->SetButtonText(GalleryLanguage::IsChinese() ? QStringLiteral("English") : QStringLiteral("中文"),
+                               false);
+    m_pLanguage->setAccessibleName(tr("切换到英文"));
+    m_pLanguage->setToolTip(tr("切换到英文"));
+    CreateRibbon();
+
+    for (int page = 0; page < m_pStack->count(); ++page) {
+        auto* scroll = qobject_cast<QScrollArea*>(m_pStack->widget(page));
+        const int place = scroll->verticalScrollBar()->value();
+        delete scroll->takeWidget();
+        if (page == m_pPageList->CurrentPage()) {
+            ShowPage(page);
+            // The new page has its height once it is laid out.
+            scroll->widget()->adjustSize();
+            QCoreApplication::sendPostedEvents(scroll, QEvent::LayoutRequest);
+            scroll->verticalScrollBar()->setValue(place);
+        }
+    }
 }

@@ -8,6 +8,7 @@
 
 #include <QColor>
 #include <QCoreApplication>
+#include <QEvent>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPointer>
@@ -23,6 +24,7 @@ constexpr auto TextSheet = "#logText{background:#f6f6f6;border:none;}";
 
 LogPane::LogPane(QWidget* parent)
     : QWidget(parent)
+    , m_pTitle(new QLabel)
     , m_pText(new QPlainTextEdit)
 {
     setObjectName(QStringLiteral("logPane"));
@@ -30,9 +32,8 @@ LogPane::LogPane(QWidget* parent)
     setStyleSheet(QLatin1String(PaneSheet));
     setFixedHeight(PaneHeight);
 
-    auto* title = new QLabel(tr("日志"));
-    title->setFont(FontCnMedium_13);
-    title->setStyleSheet(QStringLiteral("color:%1;").arg(QLatin1String(GalleryStyle::Grey)));
+    m_pTitle->setFont(FontCnMedium_13);
+    m_pTitle->setStyleSheet(QStringLiteral("color:%1;").arg(QLatin1String(GalleryStyle::Grey)));
     m_pText->setObjectName(QStringLiteral("logText"));
     m_pText->setReadOnly(true);
     m_pText->setFont(FontCn_12);
@@ -43,8 +44,9 @@ LogPane::LogPane(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(20, 8, 8, 6);
     layout->setSpacing(4);
-    layout->addWidget(title);
+    layout->addWidget(m_pTitle);
     layout->addWidget(m_pText, 1);
+    Retranslate();
 
     // Queued like the log's own lines below, so that both kinds stand in the order in which they came.
     connect(CorvaneSignalHelper::instance(), &CorvaneSignalHelper::signalFilePluginAppendLog, this,
@@ -63,6 +65,20 @@ LogPane::LogPane(QWidget* parent)
 LogPane::~LogPane()
 {
     CDebugLog::SetListener({});
+}
+
+void LogPane::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        Retranslate(); // the lines stay as they were written
+    }
+}
+
+void LogPane::Retranslate()
+{
+    m_pTitle->setText(tr("日志"));
+    m_pText->setAccessibleName(tr("日志"));
 }
 
 void LogPane::AppendLine(const QString& text, const QColor& color)

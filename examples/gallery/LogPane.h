@@ -3,6 +3,7 @@
 #include <QWidget>
 
 class QColor;
+class QLabel;
 class QPlainTextEdit;
 
 /**
@@ -20,6 +21,12 @@ public:
     /** Appends a line in a colour. GUI thread only. */
     void AppendLine(const QString& text, const QColor& color);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    void Retranslate();
+
+    QLabel* m_pTitle;
     QPlainTextEdit* m_pText;
 };

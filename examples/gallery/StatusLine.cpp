@@ -1,10 +1,11 @@
 #include "StatusLine.h"
 
 #include "GalleryStyle.h"
+#include "machine/CurrentMachine.h"
 
 #include <CorvaneBase/CorvaneFonts.h>
-#include <CorvaneBase/CorvaneRegisterHelper.h>
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
@@ -36,15 +37,25 @@ StatusLine::StatusLine(QWidget* parent)
     layout->addWidget(m_pText);
     layout->addStretch(1);
 
-    connect(CorvaneRegisterHelper::instance(), &CorvaneRegisterHelper::signalCurrentMachineChanged, this,
-            &StatusLine::ShowMachine);
-    ShowMachine(false, QString(), QString());
+    connect(CurrentMachine::instance(), &CurrentMachine::SignalChanged, this, &StatusLine::ShowMachine);
+    ShowMachine();
 }
 
-void StatusLine::ShowMachine(bool connected, const QString& ip, const QString& serial)
+void StatusLine::changeEvent(QEvent* event)
 {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        ShowMachine();
+    }
+}
+
+void StatusLine::ShowMachine()
+{
+    const CurrentMachine* machine = CurrentMachine::instance();
+    const bool connected = machine->IsConnected();
     const QString picture = connected ? QStringLiteral(":/icon/bottom/icon_state_connect_yes.png")
                                       : QStringLiteral(":/icon/bottom/icon_state_connect_no.png");
     m_pIcon->setPixmap(QIcon(picture).pixmap(IconSize, IconSize));
-    m_pText->setText(connected ? tr("已连接机床 %1，地址 %2").arg(serial, ip) : tr("未连接机床"));
+    m_pText->setText(connected ? tr("已连接机床 %1，地址 %2").arg(machine->Serial(), machine->Address())
+                               : tr("未连接机床"));
 }

@@ -12,8 +12,11 @@ class StatusLine : public QWidget
 public:
     explicit StatusLine(QWidget* parent = nullptr);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
-    void ShowMachine(bool connected, const QString& ip, const QString& serial);
+    void ShowMachine();
 
     QLabel* m_pIcon;
     QLabel* m_pText;

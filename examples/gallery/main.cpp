@@ -1,3 +1,4 @@
+#include "GalleryLanguage.h"
 #include "GalleryOptions.h"
 #include "GalleryWindow.h"
 #include "PageRegistry.h"
@@ -7,17 +8,14 @@
 #include <CorvaneBase/CorvaneFonts.h>
 #include <CorvaneBase/CorvaneSignalHelper.h>
 #include <CorvaneBase/CorvaneTextHelper.h>
-#include <CustomControls/CustomControlsTranslation.h>
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFile>
 #include <QIcon>
-#include <QLocale>
 #include <QPalette>
 #include <QStyleFactory>
-#include <QTranslator>
 
 #include <cstdio>
 
@@ -94,19 +92,15 @@ int main(int argc, char* argv[])
     GalleryOptions options;
     options.iDiscoveryPort = quint16(port);
 
+    bool chinese = GalleryLanguage::IsChinese();
     if (parser.isSet(language)) {
         const QString value = parser.value(language);
         if (value != QLatin1String("zh") && value != QLatin1String("en")) {
             return Complain(QStringLiteral("--language takes zh or en"));
         }
-        CorvaneTextHelper::instance()->SetAppInChineseEnvironment(value == QLatin1String("zh"));
+        chinese = value == QLatin1String("zh");
     }
-    const bool chinese = CorvaneTextHelper::instance()->AppInChineseEnvironment();
-    LoadCustomControlsTranslation(QLocale(chinese ? QLocale::Chinese : QLocale::English));
-    QTranslator translator;
-    if (!chinese && translator.load(QStringLiteral(":/gallery/translations/gallery_en.qm"))) {
-        QApplication::installTranslator(&translator);
-    }
+    GalleryLanguage::Use(chinese);
 
     if (parser.isSet(listPages)) {
         for (const PageEntry& entry : GalleryPages()) {

@@ -2,6 +2,7 @@
 
 #include "../GalleryStyle.h"
 #include "../GalleryTile.h"
+#include "../machine/CurrentMachine.h"
 #include "../machine/MachineConnector.h"
 #include "../machine/MachineDiscovery.h"
 
@@ -25,7 +26,6 @@ MachinePage::MachinePage(const GalleryOptions& options)
     , m_pUsbOnly(new QCheckBox(tr("列表中只显示 USB 机床")))
     , m_pOutcome(AddOutcomeLine(QStringLiteral("machineOutcome")))
 {
-    m_pOutcome->setText(tr("还没有连接机床。"));
     m_pUsbOnly->setObjectName(QStringLiteral("machineUsbOnly"));
     m_pUsbOnly->setFont(FontCn_14);
     m_pUsbOnly->setStyleSheet(QLatin1String(CheckSheet));
@@ -46,18 +46,14 @@ MachinePage::MachinePage(const GalleryOptions& options)
     open->addLayout(grid);
     open->addWidget(m_pUsbOnly);
 
-    QPushButton* disconnect = CreateCommand(tr("断开机床"), QStringLiteral("machineDisconnect"));
-    disconnect->setFixedWidth(140);
-    disconnect->setEnabled(false);
-    connect(disconnect, &QPushButton::clicked, this,
+    m_pDisconnect = CreateCommand(tr("断开机床"), QStringLiteral("machineDisconnect"));
+    m_pDisconnect->setFixedWidth(140);
+    connect(m_pDisconnect, &QPushButton::clicked, this,
             [] { CorvaneRegisterHelper::instance()->SetCurrentMachineConnectStatus(false, QString(), QString()); });
-    connect(CorvaneRegisterHelper::instance(), &CorvaneRegisterHelper::signalCurrentMachineChanged, this,
-            [this, disconnect](bool connected, const QString& ip, const QString& serial) {
-                disconnect->setEnabled(connected);
-                m_pOutcome->setText(connected ? tr("当前机床：%1，地址 %2").arg(serial, ip) : tr("还没有连接机床。"));
-            });
+    connect(CurrentMachine::instance(), &CurrentMachine::SignalChanged, this, &MachinePage::ShowMachine);
+    ShowMachine();
     BeginRow();
-    AddCard(tr("当前机床"), tr("状态栏也会显示当前机床。"))->addWidget(disconnect);
+    AddCard(tr("当前机床"), tr("状态栏也会显示当前机床。"))->addWidget(m_pDisconnect);
 
     auto* roads = new QGridLayout;
     roads->setHorizontalSpacing(20);
@@ -87,6 +83,14 @@ MachinePage::MachinePage(const GalleryOptions& options)
                 Q_EMIT CorvaneSignalHelper::instance()->signalFilePluginAppendLog(
                     tr("已通过 USB 连接机床 %1，地址 %2").arg(serial, ip), QColor(0x18, 0x85, 0x53));
             });
+}
+
+void MachinePage::ShowMachine()
+{
+    const CurrentMachine* machine = CurrentMachine::instance();
+    m_pDisconnect->setEnabled(machine->IsConnected());
+    m_pOutcome->setText(machine->IsConnected() ? tr("当前机床：%1，地址 %2").arg(machine->Serial(), machine->Address())
+                                               : tr("还没有连接机床。"));
 }
 
 void MachinePage::OpenPanel(bool forCalibration)

@@ -16,8 +16,10 @@ public:
 
 private:
     void OpenPanel(bool forCalibration);
+    void ShowMachine();
 
     MachineDiscovery* m_pDiscovery;
     QCheckBox* m_pUsbOnly;
     QLabel* m_pOutcome;
+    QPushButton* m_pDisconnect = nullptr;
 };

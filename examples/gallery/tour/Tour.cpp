@@ -55,6 +55,8 @@ bool Tour::Prepare(const QStringList& onlyGroups, QString* problem)
     groups.push_back(TourNotices(this));
     groups.push_back(TourCombos(this));
     groups.push_back(TourText(this));
+    groups.push_back(TourSearch(this));
+    groups.push_back(TourLanguage(this));
     groups.push_back(TourMachine(this));
     groups.push_back(TourToolConfirmation(this));
     groups.push_back(TourToolTable(this));

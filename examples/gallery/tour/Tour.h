@@ -135,6 +135,8 @@ TourGroup TourToolTable(Tour* tour);
 TourGroup TourUsb(Tour* tour);
 TourGroup TourCombos(Tour* tour);
 TourGroup TourText(Tour* tour);
+TourGroup TourSearch(Tour* tour);
+TourGroup TourLanguage(Tour* tour);
 
 /** The step that opens a page by a click on its name in the page list. */
 TourStep TourOpenPage(const QString& page);

@@ -4,11 +4,14 @@
 #include <CustomControls/machine/CSelectMachineBox.h>
 #include <CustomControls/messagebox/CVelmarMessageBox.h>
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QTabBar>
 #include <QTextBrowser>
 
 #include <algorithm>
@@ -142,6 +145,60 @@ CSelectMachineBox* TourLook::Panel()
 CProgressWidget* TourLook::Progress()
 {
     return VisibleWindow<CProgressWidget>();
+}
+
+QStringList TourLook::Texts(QWidget* window)
+{
+    QStringList texts;
+    const QList<QWidget*> widgets = window->findChildren<QWidget*>();
+    for (QWidget* widget : widgets) {
+        if (!widget->isVisible() || widget->objectName() == QLatin1String("titleLanguage") ||
+            widget->parentWidget()->objectName() == QLatin1String("titleLanguage")) {
+            continue;
+        }
+        texts << widget->toolTip() << widget->accessibleName() << widget->windowTitle();
+        if (auto* label = qobject_cast<QLabel*>(widget)) {
+            texts << label->text();
+        } else if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
+            texts << button->text();
+        } else if (auto* field = qobject_cast<QLineEdit*>(widget)) {
+            texts << field->text() << field->placeholderText();
+        } else if (auto* combo = qobject_cast<QComboBox*>(widget)) {
+            for (int index = 0; index < combo->count(); ++index) {
+                texts << combo->itemText(index);
+            }
+        } else if (auto* tabs = qobject_cast<QTabBar*>(widget)) {
+            for (int index = 0; index < tabs->count(); ++index) {
+                texts << tabs->tabText(index);
+            }
+        } else if (auto* view = qobject_cast<QAbstractItemView*>(widget)) {
+            const QAbstractItemModel* model = view->model();
+            for (int row = 0; model && row < model->rowCount(); ++row) {
+                for (int column = 0; column < model->columnCount(); ++column) {
+                    texts << model->index(row, column).data().toString();
+                }
+            }
+            for (int column = 0; model && column < model->columnCount(); ++column) {
+                texts << model->headerData(column, Qt::Horizontal).toString();
+            }
+        }
+        texts << widget->property("GroupName").toString();
+    }
+    texts.removeAll(QString());
+    return texts;
+}
+
+QString TourLook::ChineseText(QWidget* window)
+{
+    const QStringList texts = Texts(window);
+    for (const QString& text : texts) {
+        for (const QChar character : text) {
+            if (character.script() == QChar::Script_Han) {
+                return text;
+            }
+        }
+    }
+    return QString();
 }
 
 QColor TourLook::ScreenColor(QWidget* widget, const QPoint& position)

@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 class CProgressWidget;
 class CSelectMachineBox;
@@ -34,6 +35,11 @@ QList<int> BoxCodes();
 
 CSelectMachineBox* Panel();
 CProgressWidget* Progress();
+
+/** What the visible widgets of a window say: captions, entries, tool tips and names for a screen reader. */
+QStringList Texts(QWidget* window);
+/** The first of them with a Chinese character, but for the button that offers Chinese; null when there is none. */
+QString ChineseText(QWidget* window);
 
 /** The colour that the screen shows at a place of the widget. */
 QColor ScreenColor(QWidget* widget, const QPoint& position);

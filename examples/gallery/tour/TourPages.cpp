@@ -24,14 +24,14 @@ TourStep TourOpenPage(const QString& page)
     const auto click = [page](TourInput& input) {
         auto* list = qobject_cast<QListWidget*>(Find(QStringLiteral("pageList")));
         for (int row = 0; list && row < list->count(); ++row) {
-            if (list->item(row)->text() == Entry(page)->strTitle) {
+            if (list->item(row)->text() == Entry(page)->Title()) {
                 input.Click(list->viewport(), list->visualItemRect(list->item(row)).center());
             }
         }
     };
     const auto missing = [page] {
         return True(Find(QStringLiteral("page-") + page), QStringLiteral("the page does not show")) +
-               Equal(QStringLiteral("the heading"), Text(QStringLiteral("pageHeading")), Entry(page)->strTitle);
+               Equal(QStringLiteral("the heading"), Text(QStringLiteral("pageHeading")), Entry(page)->Title());
     };
     return {QStringLiteral("open page ") + page, click, missing};
 }

@@ -201,38 +201,198 @@
     </message>
 </context>
 <context>
-    <name>CorvaneToolBitHelper</name>
+    <name>CombosPage</name>
     <message>
-        <source>铰刀</source>
-        <translation>Reamer</translation>
+        <source>选择任意一项，这里会显示结果。</source>
+        <translation>Choose any entry; the outcome is told here.</translation>
     </message>
     <message>
-        <source>立铣刀</source>
-        <translation>End mill</translation>
+        <source>材料</source>
+        <translation>Material</translation>
     </message>
     <message>
-        <source>避空立铣刀</source>
-        <translation>Relieved mill</translation>
+        <source>铝合金</source>
+        <translation>Aluminium</translation>
     </message>
     <message>
-        <source>球头铣刀</source>
-        <translation>Ball nose</translation>
+        <source>黄铜</source>
+        <translation>Brass</translation>
     </message>
     <message>
-        <source>避空球头铣刀</source>
-        <translation>Relieved ball</translation>
+        <source>亚克力</source>
+        <translation>Acrylic</translation>
     </message>
     <message>
-        <source>圆鼻铣刀</source>
-        <translation>Bull nose</translation>
+        <source>胡桃木</source>
+        <translation>Walnut</translation>
     </message>
     <message>
-        <source>锥刀</source>
-        <translation>Engraver</translation>
+        <source>刀具</source>
+        <translation>Tool</translation>
     </message>
     <message>
-        <source>锥度球头铣刀</source>
-        <translation>Tapered ball</translation>
+        <source>平底刀 %1</source>
+        <translation>End mill %1</translation>
+    </message>
+    <message>
+        <source>球头刀 %1</source>
+        <translation>Ball mill %1</translation>
+    </message>
+    <message>
+        <source>钻头 %1</source>
+        <translation>Drill %1</translation>
+    </message>
+    <message>
+        <source>雕刻刀 %1</source>
+        <translation>Engraver %1</translation>
+    </message>
+    <message>
+        <source>加工方式</source>
+        <translation>Strategy</translation>
+    </message>
+    <message>
+        <source>分层粗加工</source>
+        <translation>Roughing in layers</translation>
+    </message>
+    <message>
+        <source>等高精加工</source>
+        <translation>Contour finishing</translation>
+    </message>
+    <message>
+        <source>平行精加工</source>
+        <translation>Parallel finishing</translation>
+    </message>
+    <message>
+        <source>添加刀具</source>
+        <translation>Add a tool</translation>
+    </message>
+    <message>
+        <source>移除最后一把</source>
+        <translation>Remove the last</translation>
+    </message>
+    <message>
+        <source>备用刀 %1 号</source>
+        <translation>Spare tool %1</translation>
+    </message>
+    <message>
+        <source>加工参数</source>
+        <translation>Cutting parameters</translation>
+    </message>
+    <message>
+        <source>深色面板里的下拉框。到第六项时，列表变成可滚动的。</source>
+        <translation>Combo boxes of a dark panel. With the sixth entry the list begins to scroll.</translation>
+    </message>
+    <message>
+        <source>%1 把刀具，滚动列表</source>
+        <translation>%1 tools, scrolling list</translation>
+    </message>
+    <message>
+        <source>%1 把刀具，普通列表</source>
+        <translation>%1 tools, plain list</translation>
+    </message>
+    <message>
+        <source>底座</source>
+        <translation>Base</translation>
+    </message>
+    <message>
+        <source>齿轮</source>
+        <translation>Gear</translation>
+    </message>
+    <message>
+        <source>面板</source>
+        <translation>Panel</translation>
+    </message>
+    <message>
+        <source>零件</source>
+        <translation>Part</translation>
+    </message>
+    <message>
+        <source>加工面</source>
+        <translation>Side</translation>
+    </message>
+    <message>
+        <source>数量</source>
+        <translation>Count</translation>
+    </message>
+    <message>
+        <source>正面</source>
+        <translation>Front</translation>
+    </message>
+    <message>
+        <source>反面</source>
+        <translation>Back</translation>
+    </message>
+    <message>
+        <source>双面</source>
+        <translation>Both</translation>
+    </message>
+    <message>
+        <source>零件清单</source>
+        <translation>List of parts</translation>
+    </message>
+    <message>
+        <source>表格里的浅色下拉框，用法与 QComboBox 相同。</source>
+        <translation>Light combo boxes of a table, used as any QComboBox.</translation>
+    </message>
+    <message>
+        <source>手动转速</source>
+        <translation>Manual speed</translation>
+    </message>
+    <message>
+        <source>自动转速</source>
+        <translation>Automatic speed</translation>
+    </message>
+    <message>
+        <source>恒定线速度</source>
+        <translation>Constant surface speed</translation>
+    </message>
+    <message>
+        <source>尚未保存</source>
+        <translation>Not saved yet</translation>
+    </message>
+    <message>
+        <source>已保存：%1</source>
+        <translation>Saved: %1</translation>
+    </message>
+    <message>
+        <source>主轴</source>
+        <translation>Spindle</translation>
+    </message>
+    <message>
+        <source>离开下拉框时才保存。</source>
+        <translation>Saves when the box is left.</translation>
+    </message>
+    <message>
+        <source>机床</source>
+        <translation>Machine</translation>
+    </message>
+    <message>
+        <source>开始加工</source>
+        <translation>Start cutting</translation>
+    </message>
+    <message>
+        <source>回到原点</source>
+        <translation>Go home</translation>
+    </message>
+    <message>
+        <source>断开连接</source>
+        <translation>Disconnect</translation>
+    </message>
+    <message>
+        <source>机床操作</source>
+        <translation>Machine</translation>
+    </message>
+    <message>
+        <source>菜单</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>带图标、快捷键和分隔线的一层菜单。</source>
+        <translation>A menu of one level with icons, shortcuts and a separator.</translation>
+    </message>
+    <message>
+        <source>%1：%2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -770,6 +930,41 @@
         <source>控件陈列室</source>
         <translation>Gallery of controls</translation>
     </message>
+    <message>
+        <source>切换到英文</source>
+        <translation>Switch to Chinese</translation>
+    </message>
+</context>
+<context>
+    <name>JogPalette</name>
+    <message>
+        <source>Y 轴正向点动</source>
+        <translation>Jog the Y axis forward</translation>
+    </message>
+    <message>
+        <source>X 轴负向点动</source>
+        <translation>Jog the X axis back</translation>
+    </message>
+    <message>
+        <source>X 轴正向点动</source>
+        <translation>Jog the X axis forward</translation>
+    </message>
+    <message>
+        <source>Y 轴负向点动</source>
+        <translation>Jog the Y axis back</translation>
+    </message>
+    <message>
+        <source>主轴抬起</source>
+        <translation>Raise the spindle</translation>
+    </message>
+    <message>
+        <source>主轴落下</source>
+        <translation>Lower the spindle</translation>
+    </message>
+    <message>
+        <source>回到工件零点</source>
+        <translation>Go to the zero point of the part</translation>
+    </message>
 </context>
 <context>
     <name>LogPane</name>
@@ -828,7 +1023,7 @@
     </message>
     <message>
         <source>面板打开期间，在本机端口 %1 上接收机床的通告。</source>
-        <translation>While the panel is open, announcements of machines are received on this computer's port %1.</translation>
+        <translation>While the panel is open, announcements of machines are received on this computer&apos;s port %1.</translation>
     </message>
     <message>
         <source>断开机床</source>
@@ -895,7 +1090,7 @@
     </message>
     <message>
         <source>机床的应答无法识别。</source>
-        <translation>The machine's answer cannot be understood.</translation>
+        <translation>The machine&apos;s answer cannot be understood.</translation>
     </message>
     <message>
         <source>机床没有答完就断开了连接。</source>
@@ -908,6 +1103,13 @@
     <message>
         <source>网络错误：%1</source>
         <translation>Network error: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MachiningView</name>
+    <message>
+        <source>拖动旋转 · 滚轮缩放 · 双击编辑</source>
+        <translation>Drag to turn · wheel to zoom · double-click to edit</translation>
     </message>
 </context>
 <context>
@@ -1249,7 +1451,7 @@
     </message>
     <message>
         <source>主轴将移动到机床原点。</source>
-        <translation>The spindle will move to the machine's origin.</translation>
+        <translation>The spindle will move to the machine&apos;s origin.</translation>
     </message>
     <message>
         <source>，已勾选</source>
@@ -1345,11 +1547,11 @@
     </message>
     <message>
         <source>4. 擦净新刀具的刀柄，插到夹头底部，再按规定的力矩拧紧；拧得过紧会损坏夹头。</source>
-        <translation>4. Wipe the new tool's shank, insert it fully, and tighten to the given torque; more than that damages the collet.</translation>
+        <translation>4. Wipe the new tool&apos;s shank, insert it fully, and tighten to the given torque; more than that damages the collet.</translation>
     </message>
     <message>
         <source>5. 核对刀库编号与刀具列表一致，特别是直径相近的平底刀和球头刀。</source>
-        <translation>5. Compare the magazine's numbers with the tool list, above all for flat and ball-nose mills of similar diameter.</translation>
+        <translation>5. Compare the magazine&apos;s numbers with the tool list, above all for flat and ball-nose mills of similar diameter.</translation>
     </message>
     <message>
         <source>6. 关上防护罩，回原点，执行一次对刀；对刀数据超出范围时请重新装夹。</source>
@@ -1358,6 +1560,33 @@
     <message>
         <source>7. 第一次切削时把进给倍率降到一半，确认声音和切屑正常后再恢复。</source>
         <translation>7. Halve the feed for the first cut, and restore it once sound and chips are right.</translation>
+    </message>
+</context>
+<context>
+    <name>PageList</name>
+    <message>
+        <source>搜索页面或类名</source>
+        <translation>Search pages, classes</translation>
+    </message>
+    <message>
+        <source>搜索页面</source>
+        <translation>Search pages</translation>
+    </message>
+    <message>
+        <source>搜索页面（%1）</source>
+        <translation>Search pages (%1)</translation>
+    </message>
+    <message>
+        <source>清除</source>
+        <translation>Clear</translation>
+    </message>
+    <message>
+        <source>页面</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>没有找到“%1”。按 Esc 显示全部页面。</source>
+        <translation>Nothing found for “%1”. Esc shows all pages.</translation>
     </message>
 </context>
 <context>
@@ -1787,241 +2016,70 @@
     </message>
 </context>
 <context>
-    <name>ToolDialog</name>
+    <name>TextPage</name>
     <message>
-        <source>球头刀 R3</source>
-        <translation>Ball end mill R3</translation>
+        <source>加工备注</source>
+        <translation>Notes</translation>
     </message>
     <message>
-        <source>编辑刀具</source>
-        <translation>Edit a cutter</translation>
+        <source>右键菜单：剪切、复制、粘贴、全选。</source>
+        <translation>Right click: cut, copy, paste, select all.</translation>
     </message>
     <message>
-        <source>名称</source>
-        <translation>Name</translation>
+        <source>第一面加工前请确认压板没有挡住刀路。
+第二面以左下角的销孔定位。
+精加工余量 0.2 mm。</source>
+        <translation>Before the first side, make sure that no clamp is in the way of the tool.
+The second side is located by the pin at the lower left.
+Leave 0.2 mm for finishing.</translation>
     </message>
     <message>
-        <source>直径 (mm)</source>
-        <translation>Diameter (mm)</translation>
+        <source>操作手册</source>
+        <translation>Manual</translation>
     </message>
     <message>
-        <source>刃长 (mm)</source>
-        <translation>Flute length (mm)</translation>
+        <source>只读；选中文字后右键可以复制。</source>
+        <translation>Read only; selected text can be copied by a right click.</translation>
     </message>
     <message>
-        <source>取消</source>
-        <translation>Cancel</translation>
+        <source>装夹</source>
+        <translation>Clamping</translation>
     </message>
     <message>
-        <source>保存</source>
-        <translation>Save</translation>
-    </message>
-</context>
-<context>
-    <name>ToolTable</name>
-    <message>
-        <source>库位</source>
-        <translation>Place</translation>
+        <source>把毛坯放在工作台中央，四角用压板压紧。压板要避开刀路。</source>
+        <translation>Put the stock in the middle of the table and clamp its four corners, out of the way of the tool.</translation>
     </message>
     <message>
-        <source>刀具</source>
-        <translation>Tool</translation>
+        <source>对刀</source>
+        <translation>Setting the zero</translation>
     </message>
     <message>
-        <source>直径 mm</source>
-        <translation>⌀ mm</translation>
+        <source>让刀尖轻触毛坯表面，再按下“设为零点”。换刀之后要重新对刀。</source>
+        <translation>Let the tip of the tool touch the stock and press &quot;Set zero&quot;. Do so again after each change of tool.</translation>
     </message>
     <message>
-        <source>长度 mm</source>
-        <translation>Length mm</translation>
-    </message>
-</context>
-<context>
-    <name>ToolTablePage</name>
-    <message>
-        <source>单击一行选择刀具，双击直径或长度修改数值。</source>
-        <translation>Click a row to choose its tool; double-click a diameter or a length to edit it.</translation>
+        <source>加工</source>
+        <translation>Cutting</translation>
     </message>
     <message>
-        <source>粗加工</source>
-        <translation>Roughing</translation>
+        <source>关好防护门，点击“开始加工”。运行中不要打开防护门。</source>
+        <translation>Close the door and click &quot;Start cutting&quot;. Keep the door closed while it runs.</translation>
     </message>
     <message>
-        <source>只能选择立铣刀，其余刀具显示为灰色。</source>
-        <translation>Only end mills can be chosen; the other tools are grey.</translation>
+        <source>清理</source>
+        <translation>Cleaning</translation>
     </message>
     <message>
-        <source>精加工</source>
-        <translation>Finishing</translation>
+        <source>加工结束后用吸尘器清理切屑，最后取下工件。</source>
+        <translation>When it is done, remove the chips with a vacuum cleaner, then take out the part.</translation>
     </message>
     <message>
-        <source>只能选择球头铣刀和锥度球头铣刀。</source>
-        <translation>Only ball nose mills can be chosen, tapered or not.</translation>
+        <source>剪贴板是空的。</source>
+        <translation>The clipboard is empty.</translation>
     </message>
     <message>
-        <source>已选择刀具：</source>
-        <translation>Chosen: </translation>
-    </message>
-    <message>
-        <source>已修改刀具：</source>
-        <translation>Edited: </translation>
-    </message>
-    <message>
-        <source>T%1 %2，直径 %3 mm，长度 %4 mm</source>
-        <translation>T%1 %2, diameter %3 mm, length %4 mm</translation>
-    </message>
-    <message>
-        <source>确认刀具</source>
-        <translation>Confirm the tools</translation>
-    </message>
-    <message>
-        <source>开始加工</source>
-        <translation>Start the job</translation>
-    </message>
-    <message>
-        <source>加工前列出所选刀具及其库位，由用户确认。</source>
-        <translation>Before the job the chosen tools are listed with their places, to be confirmed.</translation>
-    </message>
-    <message>
-        <source>刀具已确认，可以开始加工。</source>
-        <translation>The tools are confirmed; the job can start.</translation>
-    </message>
-    <message>
-        <source>未确认刀具。</source>
-        <translation>The tools are not confirmed.</translation>
-    </message>
-</context>
-<context>
-    <name>MachiningView</name>
-    <message>
-        <source>拖动旋转 · 滚轮缩放 · 双击编辑</source>
-        <translation>Drag to turn · wheel to zoom · double-click to edit</translation>
-    </message>
-</context>
-<context>
-    <name>ToastsPage</name>
-    <message>
-        <source>提示显示时，仍可在其下拖动视图。</source>
-        <translation>The view can be dragged under a toast while it shows.</translation>
-    </message>
-    <message>
-        <source>视图：旋转 %1°，俯仰 %2°</source>
-        <translation>View: turned %1°, tilted %2°</translation>
-    </message>
-    <message>
-        <source>编辑模型</source>
-        <translation>Edit model</translation>
-    </message>
-    <message>
-        <source>退出编辑</source>
-        <translation>Leave editing</translation>
-    </message>
-    <message>
-        <source>空号</source>
-        <translation>Free</translation>
-    </message>
-    <message>
-        <source>生成G代码</source>
-        <translation>Make G-code</translation>
-    </message>
-    <message>
-        <source>编辑纹理</source>
-        <translation>Edit texture</translation>
-    </message>
-    <message>
-        <source>模型越界</source>
-        <translation>Outside stock</translation>
-    </message>
-    <message>
-        <source>自定义</source>
-        <translation>Custom</translation>
-    </message>
-    <message>
-        <source>隐藏外壳</source>
-        <translation>Hide shell</translation>
-    </message>
-    <message>
-        <source>显示外壳</source>
-        <translation>Show shell</translation>
-    </message>
-    <message>
-        <source>隐藏坐标</source>
-        <translation>Hide axes</translation>
-    </message>
-    <message>
-        <source>显示坐标</source>
-        <translation>Show axes</translation>
-    </message>
-    <message>
-        <source>关闭检测</source>
-        <translation>Check off</translation>
-    </message>
-    <message>
-        <source>打开检测</source>
-        <translation>Check on</translation>
-    </message>
-    <message>
-        <source>退出标定</source>
-        <translation>Calibration</translation>
-    </message>
-    <message>
-        <source>面不可加工</source>
-        <translation>Bad face</translation>
-    </message>
-    <message>
-        <source>圆柱面不可加工</source>
-        <translation>Bad cylinder</translation>
-    </message>
-    <message>
-        <source>二十种提示</source>
-        <translation>Twenty toasts</translation>
-    </message>
-    <message>
-        <source>编号即类型的值；10、19、20 与自定义文字是警告，3 没有内容，不显示。</source>
-        <translation>The number is the value of the type; 10, 19, 20 and the custom text are warnings, 3 has no message and does not show.</translation>
-    </message>
-    <message>
-        <source>2 号刀具已使用 40 小时，超过建议寿命；继续使用可能影响表面质量，请在下一次换刀时更换。</source>
-        <translation>Tool 2 has been used for 40 hours, longer than is advised; the surface may suffer. Please replace it at the next tool change.</translation>
-    </message>
-    <message>
-        <source>类型 %1 没有内容。</source>
-        <translation>Type %1 has no message.</translation>
-    </message>
-    <message>
-        <source>显示类型 %1。</source>
-        <translation>Type %1 shows.</translation>
-    </message>
-</context>
-<context>
-    <name>JogPalette</name>
-    <message>
-        <source>Y 轴正向点动</source>
-        <translation>Jog the Y axis forward</translation>
-    </message>
-    <message>
-        <source>X 轴负向点动</source>
-        <translation>Jog the X axis back</translation>
-    </message>
-    <message>
-        <source>X 轴正向点动</source>
-        <translation>Jog the X axis forward</translation>
-    </message>
-    <message>
-        <source>Y 轴负向点动</source>
-        <translation>Jog the Y axis back</translation>
-    </message>
-    <message>
-        <source>主轴抬起</source>
-        <translation>Raise the spindle</translation>
-    </message>
-    <message>
-        <source>主轴落下</source>
-        <translation>Lower the spindle</translation>
-    </message>
-    <message>
-        <source>回到工件零点</source>
-        <translation>Go to the zero point of the part</translation>
+        <source>剪贴板：%1</source>
+        <translation>Clipboard: %1</translation>
     </message>
 </context>
 <context>
@@ -2198,6 +2256,206 @@ for the fourth axis</translation>
     </message>
 </context>
 <context>
+    <name>ToastsPage</name>
+    <message>
+        <source>提示显示时，仍可在其下拖动视图。</source>
+        <translation>The view can be dragged under a toast while it shows.</translation>
+    </message>
+    <message>
+        <source>视图：旋转 %1°，俯仰 %2°</source>
+        <translation>View: turned %1°, tilted %2°</translation>
+    </message>
+    <message>
+        <source>编辑模型</source>
+        <translation>Edit model</translation>
+    </message>
+    <message>
+        <source>退出编辑</source>
+        <translation>Leave editing</translation>
+    </message>
+    <message>
+        <source>空号</source>
+        <translation>Free</translation>
+    </message>
+    <message>
+        <source>生成G代码</source>
+        <translation>Make G-code</translation>
+    </message>
+    <message>
+        <source>编辑纹理</source>
+        <translation>Edit texture</translation>
+    </message>
+    <message>
+        <source>模型越界</source>
+        <translation>Outside stock</translation>
+    </message>
+    <message>
+        <source>自定义</source>
+        <translation>Custom</translation>
+    </message>
+    <message>
+        <source>隐藏外壳</source>
+        <translation>Hide shell</translation>
+    </message>
+    <message>
+        <source>显示外壳</source>
+        <translation>Show shell</translation>
+    </message>
+    <message>
+        <source>隐藏坐标</source>
+        <translation>Hide axes</translation>
+    </message>
+    <message>
+        <source>显示坐标</source>
+        <translation>Show axes</translation>
+    </message>
+    <message>
+        <source>关闭检测</source>
+        <translation>Check off</translation>
+    </message>
+    <message>
+        <source>打开检测</source>
+        <translation>Check on</translation>
+    </message>
+    <message>
+        <source>退出标定</source>
+        <translation>Calibration</translation>
+    </message>
+    <message>
+        <source>面不可加工</source>
+        <translation>Bad face</translation>
+    </message>
+    <message>
+        <source>圆柱面不可加工</source>
+        <translation>Bad cylinder</translation>
+    </message>
+    <message>
+        <source>二十种提示</source>
+        <translation>Twenty toasts</translation>
+    </message>
+    <message>
+        <source>编号即类型的值；10、19、20 与自定义文字是警告，3 没有内容，不显示。</source>
+        <translation>The number is the value of the type; 10, 19, 20 and the custom text are warnings, 3 has no message and does not show.</translation>
+    </message>
+    <message>
+        <source>2 号刀具已使用 40 小时，超过建议寿命；继续使用可能影响表面质量，请在下一次换刀时更换。</source>
+        <translation>Tool 2 has been used for 40 hours, longer than is advised; the surface may suffer. Please replace it at the next tool change.</translation>
+    </message>
+    <message>
+        <source>类型 %1 没有内容。</source>
+        <translation>Type %1 has no message.</translation>
+    </message>
+    <message>
+        <source>显示类型 %1。</source>
+        <translation>Type %1 shows.</translation>
+    </message>
+</context>
+<context>
+    <name>ToolDialog</name>
+    <message>
+        <source>球头刀 R3</source>
+        <translation>Ball end mill R3</translation>
+    </message>
+    <message>
+        <source>编辑刀具</source>
+        <translation>Edit a cutter</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>直径 (mm)</source>
+        <translation>Diameter (mm)</translation>
+    </message>
+    <message>
+        <source>刃长 (mm)</source>
+        <translation>Flute length (mm)</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>保存</source>
+        <translation>Save</translation>
+    </message>
+</context>
+<context>
+    <name>ToolTable</name>
+    <message>
+        <source>库位</source>
+        <translation>Place</translation>
+    </message>
+    <message>
+        <source>刀具</source>
+        <translation>Tool</translation>
+    </message>
+    <message>
+        <source>直径 mm</source>
+        <translation>⌀ mm</translation>
+    </message>
+    <message>
+        <source>长度 mm</source>
+        <translation>Length mm</translation>
+    </message>
+</context>
+<context>
+    <name>ToolTablePage</name>
+    <message>
+        <source>单击一行选择刀具，双击直径或长度修改数值。</source>
+        <translation>Click a row to choose its tool; double-click a diameter or a length to edit it.</translation>
+    </message>
+    <message>
+        <source>粗加工</source>
+        <translation>Roughing</translation>
+    </message>
+    <message>
+        <source>只能选择立铣刀，其余刀具显示为灰色。</source>
+        <translation>Only end mills can be chosen; the other tools are grey.</translation>
+    </message>
+    <message>
+        <source>精加工</source>
+        <translation>Finishing</translation>
+    </message>
+    <message>
+        <source>只能选择球头铣刀和锥度球头铣刀。</source>
+        <translation>Only ball nose mills can be chosen, tapered or not.</translation>
+    </message>
+    <message>
+        <source>已选择刀具：</source>
+        <translation>Chosen: </translation>
+    </message>
+    <message>
+        <source>已修改刀具：</source>
+        <translation>Edited: </translation>
+    </message>
+    <message>
+        <source>T%1 %2，直径 %3 mm，长度 %4 mm</source>
+        <translation>T%1 %2, diameter %3 mm, length %4 mm</translation>
+    </message>
+    <message>
+        <source>确认刀具</source>
+        <translation>Confirm the tools</translation>
+    </message>
+    <message>
+        <source>开始加工</source>
+        <translation>Start the job</translation>
+    </message>
+    <message>
+        <source>加工前列出所选刀具及其库位，由用户确认。</source>
+        <translation>Before the job the chosen tools are listed with their places, to be confirmed.</translation>
+    </message>
+    <message>
+        <source>刀具已确认，可以开始加工。</source>
+        <translation>The tools are confirmed; the job can start.</translation>
+    </message>
+    <message>
+        <source>未确认刀具。</source>
+        <translation>The tools are not confirmed.</translation>
+    </message>
+</context>
+<context>
     <name>WatermarkPage</name>
     <message>
         <source>加工预览（内部版本）</source>
@@ -2254,268 +2512,6 @@ for the fourth axis</translation>
     <message>
         <source>图片按间隔逐张显示。</source>
         <translation>Pictures shown one after the other.</translation>
-    </message>
-</context>
-<context>
-    <name>CombosPage</name>
-    <message>
-        <source>选择任意一项，这里会显示结果。</source>
-        <translation>Choose any entry; the outcome is told here.</translation>
-    </message>
-    <message>
-        <source>材料</source>
-        <translation>Material</translation>
-    </message>
-    <message>
-        <source>铝合金</source>
-        <translation>Aluminium</translation>
-    </message>
-    <message>
-        <source>黄铜</source>
-        <translation>Brass</translation>
-    </message>
-    <message>
-        <source>亚克力</source>
-        <translation>Acrylic</translation>
-    </message>
-    <message>
-        <source>胡桃木</source>
-        <translation>Walnut</translation>
-    </message>
-    <message>
-        <source>刀具</source>
-        <translation>Tool</translation>
-    </message>
-    <message>
-        <source>平底刀 %1</source>
-        <translation>End mill %1</translation>
-    </message>
-    <message>
-        <source>球头刀 %1</source>
-        <translation>Ball mill %1</translation>
-    </message>
-    <message>
-        <source>钻头 %1</source>
-        <translation>Drill %1</translation>
-    </message>
-    <message>
-        <source>雕刻刀 %1</source>
-        <translation>Engraver %1</translation>
-    </message>
-    <message>
-        <source>加工方式</source>
-        <translation>Strategy</translation>
-    </message>
-    <message>
-        <source>分层粗加工</source>
-        <translation>Roughing in layers</translation>
-    </message>
-    <message>
-        <source>等高精加工</source>
-        <translation>Contour finishing</translation>
-    </message>
-    <message>
-        <source>平行精加工</source>
-        <translation>Parallel finishing</translation>
-    </message>
-    <message>
-        <source>添加刀具</source>
-        <translation>Add a tool</translation>
-    </message>
-    <message>
-        <source>移除最后一把</source>
-        <translation>Remove the last</translation>
-    </message>
-    <message>
-        <source>备用刀 %1 号</source>
-        <translation>Spare tool %1</translation>
-    </message>
-    <message>
-        <source>加工参数</source>
-        <translation>Cutting parameters</translation>
-    </message>
-    <message>
-        <source>深色面板里的下拉框。到第六项时，列表变成可滚动的。</source>
-        <translation>Combo boxes of a dark panel. With the sixth entry the list begins to scroll.</translation>
-    </message>
-    <message>
-        <source>%1 把刀具，滚动列表</source>
-        <translation>%1 tools, scrolling list</translation>
-    </message>
-    <message>
-        <source>%1 把刀具，普通列表</source>
-        <translation>%1 tools, plain list</translation>
-    </message>
-    <message>
-        <source>底座</source>
-        <translation>Base</translation>
-    </message>
-    <message>
-        <source>齿轮</source>
-        <translation>Gear</translation>
-    </message>
-    <message>
-        <source>面板</source>
-        <translation>Panel</translation>
-    </message>
-    <message>
-        <source>零件</source>
-        <translation>Part</translation>
-    </message>
-    <message>
-        <source>加工面</source>
-        <translation>Side</translation>
-    </message>
-    <message>
-        <source>数量</source>
-        <translation>Count</translation>
-    </message>
-    <message>
-        <source>正面</source>
-        <translation>Front</translation>
-    </message>
-    <message>
-        <source>反面</source>
-        <translation>Back</translation>
-    </message>
-    <message>
-        <source>双面</source>
-        <translation>Both</translation>
-    </message>
-    <message>
-        <source>零件清单</source>
-        <translation>List of parts</translation>
-    </message>
-    <message>
-        <source>表格里的浅色下拉框，用法与 QComboBox 相同。</source>
-        <translation>Light combo boxes of a table, used as any QComboBox.</translation>
-    </message>
-    <message>
-        <source>手动转速</source>
-        <translation>Manual speed</translation>
-    </message>
-    <message>
-        <source>自动转速</source>
-        <translation>Automatic speed</translation>
-    </message>
-    <message>
-        <source>恒定线速度</source>
-        <translation>Constant surface speed</translation>
-    </message>
-    <message>
-        <source>尚未保存</source>
-        <translation>Not saved yet</translation>
-    </message>
-    <message>
-        <source>已保存：%1</source>
-        <translation>Saved: %1</translation>
-    </message>
-    <message>
-        <source>主轴</source>
-        <translation>Spindle</translation>
-    </message>
-    <message>
-        <source>离开下拉框时才保存。</source>
-        <translation>Saves when the box is left.</translation>
-    </message>
-    <message>
-        <source>机床</source>
-        <translation>Machine</translation>
-    </message>
-    <message>
-        <source>开始加工</source>
-        <translation>Start cutting</translation>
-    </message>
-    <message>
-        <source>回到原点</source>
-        <translation>Go home</translation>
-    </message>
-    <message>
-        <source>断开连接</source>
-        <translation>Disconnect</translation>
-    </message>
-    <message>
-        <source>机床操作</source>
-        <translation>Machine</translation>
-    </message>
-    <message>
-        <source>菜单</source>
-        <translation>Menu</translation>
-    </message>
-    <message>
-        <source>带图标、快捷键和分隔线的一层菜单。</source>
-        <translation>A menu of one level with icons, shortcuts and a separator.</translation>
-    </message>
-    <message>
-        <source>%1：%2</source>
-        <translation>%1: %2</translation>
-    </message>
-</context>
-<context>
-    <name>TextPage</name>
-    <message>
-        <source>加工备注</source>
-        <translation>Notes</translation>
-    </message>
-    <message>
-        <source>右键菜单：剪切、复制、粘贴、全选。</source>
-        <translation>Right click: cut, copy, paste, select all.</translation>
-    </message>
-    <message>
-        <source>第一面加工前请确认压板没有挡住刀路。
-第二面以左下角的销孔定位。
-精加工余量 0.2 mm。</source>
-        <translation>Before the first side, make sure that no clamp is in the way of the tool.
-The second side is located by the pin at the lower left.
-Leave 0.2 mm for finishing.</translation>
-    </message>
-    <message>
-        <source>操作手册</source>
-        <translation>Manual</translation>
-    </message>
-    <message>
-        <source>只读；选中文字后右键可以复制。</source>
-        <translation>Read only; selected text can be copied by a right click.</translation>
-    </message>
-    <message>
-        <source>装夹</source>
-        <translation>Clamping</translation>
-    </message>
-    <message>
-        <source>把毛坯放在工作台中央，四角用压板压紧。压板要避开刀路。</source>
-        <translation>Put the stock in the middle of the table and clamp its four corners, out of the way of the tool.</translation>
-    </message>
-    <message>
-        <source>对刀</source>
-        <translation>Setting the zero</translation>
-    </message>
-    <message>
-        <source>让刀尖轻触毛坯表面，再按下“设为零点”。换刀之后要重新对刀。</source>
-        <translation>Let the tip of the tool touch the stock and press &quot;Set zero&quot;. Do so again after each change of tool.</translation>
-    </message>
-    <message>
-        <source>加工</source>
-        <translation>Cutting</translation>
-    </message>
-    <message>
-        <source>关好防护门，点击“开始加工”。运行中不要打开防护门。</source>
-        <translation>Close the door and click &quot;Start cutting&quot;. Keep the door closed while it runs.</translation>
-    </message>
-    <message>
-        <source>清理</source>
-        <translation>Cleaning</translation>
-    </message>
-    <message>
-        <source>加工结束后用吸尘器清理切屑，最后取下工件。</source>
-        <translation>When it is done, remove the chips with a vacuum cleaner, then take out the part.</translation>
-    </message>
-    <message>
-        <source>剪贴板是空的。</source>
-        <translation>The clipboard is empty.</translation>
-    </message>
-    <message>
-        <source>剪贴板：%1</source>
-        <translation>Clipboard: %1</translation>
     </message>
 </context>
 </TS>

@@ -6,6 +6,7 @@
 
 #include <CorvaneBase/CorvaneFonts.h>
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSlider>
@@ -29,7 +30,6 @@ SimulationWindow::SimulationWindow(QWidget* parent)
     , m_pText(new QLabel)
 {
     setObjectName(QStringLiteral("simulationWindow"));
-    setWindowTitle(tr("刀路仿真"));
     resize(720, 520);
     setMinimumSize(420, 320);
 
@@ -67,6 +67,21 @@ SimulationWindow::SimulationWindow(QWidget* parent)
 
     connect(m_pProgress, &QSlider::valueChanged, this, &SimulationWindow::ShowProgress);
     m_pProgress->setValue(FirstPercent);
+    Retranslate();
+}
+
+void SimulationWindow::changeEvent(QEvent* event)
+{
+    FramelessMainWindow::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        Retranslate();
+    }
+}
+
+void SimulationWindow::Retranslate()
+{
+    setWindowTitle(tr("刀路仿真"));
+    ShowProgress(m_pProgress->value());
 }
 
 void SimulationWindow::ShowProgress(int percent)

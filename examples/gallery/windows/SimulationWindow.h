@@ -17,7 +17,11 @@ class SimulationWindow : public FramelessMainWindow
 public:
     explicit SimulationWindow(QWidget* parent);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    void Retranslate();
     void ShowProgress(int percent);
 
     ToolpathView* m_pView;
