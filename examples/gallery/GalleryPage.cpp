@@ -1,6 +1,7 @@
 #include "GalleryPage.h"
 
 #include "GalleryStyle.h"
+#include "windows/SourceDialog.h"
 
 #include <CorvaneBase/CorvaneFonts.h>
 
@@ -12,6 +13,11 @@
 
 namespace {
 constexpr auto CardSheet = "#galleryCard{background:#ffffff;border:1px solid %1;border-radius:8px;}";
+constexpr int SourceSize = 24;
+constexpr auto SourceSheet = "QPushButton{border:1px solid transparent;border-radius:4px;background:transparent;"
+                             "image:url(:/gallery/source.png);padding:3px;}"
+                             "QPushButton:hover{background:#e4f2eb;image:url(:/gallery/source_hover.png);}"
+                             "QPushButton:focus{border-color:#188553;image:url(:/gallery/source_hover.png);}";
 constexpr auto OutcomeSheet = "QLabel{color:%1;background:#e9f4ef;border-radius:4px;padding:8px 12px;}";
 
 void SetTextColor(QLabel* label, const char* color)
@@ -50,7 +56,7 @@ void GalleryPage::SetHeading(const QString& title, const QString& purpose)
     m_pPurpose->setText(purpose);
 }
 
-QVBoxLayout* GalleryPage::AddCard(const QString& title, const QString& hint)
+QVBoxLayout* GalleryPage::AddCard(const QString& title, const QString& hint, const QString& source)
 {
     using namespace GalleryStyle;
     auto* card = new QFrame;
@@ -59,12 +65,16 @@ QVBoxLayout* GalleryPage::AddCard(const QString& title, const QString& hint)
     auto* layout = new QVBoxLayout(card);
     layout->setContentsMargins(CardMargin, CardMargin - 4, CardMargin, CardMargin);
     layout->setSpacing(4);
-    if (!title.isEmpty()) {
-        auto* label = new QLabel(title);
-        label->setFont(FontCnBold_16);
-        SetTextColor(label, Ink);
-        layout->addWidget(label);
+    auto* heading = new QLabel(title);
+    heading->setFont(FontCnBold_16);
+    SetTextColor(heading, Ink);
+    auto* head = new QHBoxLayout;
+    head->setSpacing(8);
+    head->addWidget(heading, 1);
+    if (!source.isEmpty()) {
+        head->addWidget(CreateSourceButton(title, source), 0, Qt::AlignTop);
     }
+    layout->addLayout(head);
     if (!hint.isEmpty()) {
         auto* label = new QLabel(hint);
         label->setFont(FontCn_13);
@@ -83,6 +93,20 @@ QVBoxLayout* GalleryPage::AddCard(const QString& title, const QString& hint)
         m_pLayout->insertWidget(m_pLayout->count() - 1, card);
     }
     return content;
+}
+
+QPushButton* GalleryPage::CreateSourceButton(const QString& title, const QString& source)
+{
+    auto* button = new QPushButton;
+    button->setObjectName(QStringLiteral("source-") + source);
+    button->setFixedSize(SourceSize, SourceSize);
+    button->setCursor(Qt::PointingHandCursor);
+    button->setStyleSheet(QLatin1String(SourceSheet));
+    button->setToolTip(tr("查看源代码"));
+    button->setAccessibleName(tr("%1：查看源代码").arg(title));
+    connect(button, &QPushButton::clicked, this,
+            [this, title, source] { SourceDialog::Open(window(), title, source); });
+    return button;
 }
 
 void GalleryPage::BeginRow()

@@ -14,7 +14,7 @@ class QVBoxLayout;
  * @code
  * ButtonsPage::ButtonsPage()
  * {
- *     QVBoxLayout* types = AddCard(tr("..."), tr("..."));
+ *     QVBoxLayout* types = AddCard(tr("..."), tr("..."), QStringLiteral("button-types"));
  *     types->addWidget(new CVelmarButton(ButtonTypeText, false, true, 0, this));
  * }
  * @endcode
@@ -29,8 +29,15 @@ public:
     void SetHeading(const QString& title, const QString& purpose);
 
 protected:
-    /** Appends a card and gives its content layout. An empty title or hint leaves its label out. */
-    QVBoxLayout* AddCard(const QString& title, const QString& hint);
+    /**
+     * Appends a card and gives its content layout.
+     *
+     * @param title  heads the card
+     * @param hint   below it; an empty one leaves its label out
+     * @param source names the example's lines (see GallerySource), which a button of the card shows; an empty one
+     * leaves the button out
+     */
+    QVBoxLayout* AddCard(const QString& title, const QString& hint, const QString& source);
 
     /** A row in which the next cards stand side by side, until EndRow. */
     void BeginRow();
@@ -46,6 +53,8 @@ protected:
     static QLabel* CreateCaption(const QString& text);
 
 private:
+    QPushButton* CreateSourceButton(const QString& title, const QString& source);
+
     QLabel* m_pHeading;
     QLabel* m_pPurpose;
     QVBoxLayout* m_pLayout;

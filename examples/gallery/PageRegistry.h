@@ -11,6 +11,7 @@ struct GalleryOptions;
 struct PageEntry
 {
     QString strName;      ///< what --page takes
+    QString strSource;    ///< its file, from the gallery\'s folder
     const char* pTitle;   ///< in Chinese
     const char* pPurpose; ///< in Chinese
     QStringList classes;  ///< the library's classes that the page shows

@@ -8,6 +8,7 @@
 #include <CorvaneBase/CorvaneFonts.h>
 #include <CorvaneBase/CorvaneSignalHelper.h>
 #include <CorvaneBase/CorvaneTextHelper.h>
+#include <CustomControls/CCustomAppStyle.h>
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -15,7 +16,7 @@
 #include <QFile>
 #include <QIcon>
 #include <QPalette>
-#include <QStyleFactory>
+#include <QProxyStyle>
 
 #include <cstdio>
 
@@ -35,7 +36,7 @@ int Complain(const QString& text)
 /** The house look is fixed: it does not follow a dark desktop. */
 void SetLook()
 {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new CCustomAppStyle(new QProxyStyle(QStringLiteral("Fusion"))));
     QPalette palette;
     palette.setColor(QPalette::Window, QColor(0xf6, 0xf6, 0xf6));
     palette.setColor(QPalette::Base, Qt::white);

@@ -32,6 +32,10 @@ frames=24
 delay=6
 backdrop='#f6f6f6'
 
+# The turning cutter: its flutes climb by one pitch of 24 in so many pictures.
+turning_frames=12
+turning_pitch=24
+
 magick_convert=$(command -v convert-im6.q16 || command -v magick || command -v convert)
 export SOURCE_DATE_EPOCH=0
 
@@ -58,6 +62,21 @@ gif() { # source, target, zoom
     rm -r "$scratch"
 }
 
+turning() { # source, target folder, zooms of the twins
+    local scratch frame zoom
+    scratch=$(mktemp)
+    mkdir -p "$2"
+    for ((frame = 0; frame < turning_frames; ++frame)); do
+        sed "s/id=\"flutes\" transform=\"translate(0 0)/id=\"flutes\" transform=\"translate(0 -$((frame * turning_pitch / turning_frames)))/" \
+            "$1" > "$scratch"
+        png "$scratch" "$2/$((frame + 1)).png" 1
+        for zoom in $3; do
+            png "$scratch" "$2/$((frame + 1))@${zoom}x.png" "$zoom"
+        done
+    done
+    rm "$scratch"
+}
+
 render() { # source, target without extension, zoom
     mkdir -p "$(dirname "$2")"
     case $2 in
@@ -66,14 +85,18 @@ render() { # source, target without extension, zoom
     esac
 }
 
-tree() { # folder of sources, target folder
-    local source name
+tree() { # folder of sources, target folder, zooms of the twins
+    local source name zoom
     for source in "$1"/**/*.svg; do
         name=${source#"$1"/}
         name=${name%.svg}
         case $name in gallery/*) [ "$1" = "$art" ] && continue ;; esac
+        case $name in */turning) turning "$source" "$2/${name%/*}" "$3" && continue ;; esac
         render "$source" "$2/$name" 1
-        [[ " ${single[*]} " == *" ${name##*/} "* ]] || render "$source" "$2/$name@2x" 2
+        [[ " ${single[*]} " == *" ${name##*/} "* ]] && continue
+        for zoom in $3; do
+            render "$source" "$2/$name@${zoom}x" "$zoom"
+        done
     done
 }
 
@@ -110,8 +133,8 @@ sheet() { # folder of pictures, target
 [ "$mode" != --check ] || out=$(mktemp -d)
 rm -rf "$out/$library/icon" "$out/$gallery"/{icon,mainwindow,gallery}
 mkdir -p "$out/$library" "$out/$gallery"
-tree "$art" "$out/$library"
-tree "$art/gallery" "$out/$gallery"
+tree "$art" "$out/$library" 2
+tree "$art/gallery" "$out/$gallery" "2 3"
 list "$out/$library" CustomControls.qrc icon
 list "$out/$gallery" gallery.qrc gallery icon mainwindow
 

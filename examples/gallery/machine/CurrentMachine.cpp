@@ -14,6 +14,7 @@ CurrentMachine* CurrentMachine::instance()
     return s_pMachine;
 }
 
+//! [machine-current]
 CurrentMachine::CurrentMachine(QObject* parent)
     : QObject(parent)
 {
@@ -25,3 +26,4 @@ CurrentMachine::CurrentMachine(QObject* parent)
                 Q_EMIT SignalChanged();
             });
 }
+//! [machine-current]

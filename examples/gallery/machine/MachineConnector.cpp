@@ -16,6 +16,7 @@ MachineConnector::MachineConnector(CSelectMachineBox* panel, const MachineDiscov
     connect(panel, &CSelectMachineBox::SignalMachineSelected, this, &MachineConnector::Connect);
 }
 
+//! [machine-panel]
 void MachineConnector::Connect(const QString& ip, const QString& serial)
 {
     // A panel waits for its answer before it can ask again; should it ask again all the same, the newer question
@@ -27,7 +28,9 @@ void MachineConnector::Connect(const QString& ip, const QString& serial)
         [this, ip, serial](const QString& found, const QString& reason) { HandleAnswer(ip, serial, found, reason); });
     m_pQuery->Start(ip, m_pDiscovery ? m_pDiscovery->MachinePort(ip) : MachineDiscovery::DefaultMachinePort);
 }
+//! [machine-panel]
 
+//! [machine-panel]
 void MachineConnector::HandleAnswer(const QString& ip, const QString& expected, const QString& serial,
                                     const QString& reason)
 {
@@ -49,3 +52,4 @@ void MachineConnector::HandleAnswer(const QString& ip, const QString& expected, 
     // The last act here: while the box is open the panel, and this object with it, may go.
     CVelmarMessageBox::ShowWindow(m_pPanel, MsgBtnOk, MsgIconPop3, tr("连接失败"), problem, {});
 }
+//! [machine-panel]

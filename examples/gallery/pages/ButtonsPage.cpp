@@ -99,6 +99,7 @@ void ButtonsPage::MakeExclusive(const QList<CVelmarButton*>& buttons)
     buttons.first()->SetChooseFocus(true);
 }
 
+//! [button-types]
 void ButtonsPage::AddTypes()
 {
     struct Example
@@ -150,9 +151,12 @@ void ButtonsPage::AddTypes()
         grid->addLayout(WithCaption(button, CreateCaption(example.caption)), index / 4, index % 4);
         ++index;
     }
-    AddCard(tr("八种类型"), tr("下面一行可以选中：再次点击取消选中。"))->addLayout(grid);
+    AddCard(tr("八种类型"), tr("下面一行可以选中：再次点击取消选中。"), QStringLiteral("button-types"))
+        ->addLayout(grid);
 }
+//! [button-types]
 
+//! [button-tool-row]
 void ButtonsPage::AddToolRow()
 {
     struct Example
@@ -182,9 +186,11 @@ void ButtonsPage::AddToolRow()
     }
     row->addStretch(1);
     MakeExclusive(group);
-    AddCard(tr("工具栏"), tr("竖排的图标与文字，四选一。"))->addLayout(row);
+    AddCard(tr("工具栏"), tr("竖排的图标与文字，四选一。"), QStringLiteral("button-tool-row"))->addLayout(row);
 }
+//! [button-tool-row]
 
+//! [button-navigation]
 void ButtonsPage::AddNavigation()
 {
     struct Example
@@ -210,9 +216,11 @@ void ButtonsPage::AddNavigation()
         group.append(button);
     }
     MakeExclusive(group);
-    AddCard(tr("导航栏"), tr("竖列的文字按钮，标出当前步骤。"))->addLayout(column);
+    AddCard(tr("导航栏"), tr("竖列的文字按钮，标出当前步骤。"), QStringLiteral("button-navigation"))->addLayout(column);
 }
+//! [button-navigation]
 
+//! [button-orientations]
 void ButtonsPage::AddOrientations()
 {
     struct Example
@@ -248,9 +256,11 @@ void ButtonsPage::AddOrientations()
         }
         row->addLayout(WithCaption(button, CreateCaption(example.caption)));
     }
-    AddCard(tr("方向与图标位置"), QString())->addLayout(row);
+    AddCard(tr("方向与图标位置"), QString(), QStringLiteral("button-orientations"))->addLayout(row);
 }
+//! [button-orientations]
 
+//! [button-backgrounds]
 void ButtonsPage::AddBackgrounds()
 {
     auto* row = new QHBoxLayout;
@@ -282,9 +292,11 @@ void ButtonsPage::AddBackgrounds()
     image->SetBackgroundImage(rod, ball, ball, rod);
     row->addLayout(WithCaption(image, CreateCaption(tr("图片"))));
 
-    AddCard(tr("背景"), QString())->addLayout(row);
+    AddCard(tr("背景"), QString(), QStringLiteral("button-backgrounds"))->addLayout(row);
 }
+//! [button-backgrounds]
 
+//! [button-materials]
 void ButtonsPage::AddMaterials()
 {
     struct Example
@@ -313,9 +325,11 @@ void ButtonsPage::AddMaterials()
         group.append(button);
     }
     MakeExclusive(group);
-    AddCard(tr("材料"), tr("图片背景，选中时打勾。"))->addLayout(row);
+    AddCard(tr("材料"), tr("图片背景，选中时打勾。"), QStringLiteral("button-materials"))->addLayout(row);
 }
+//! [button-materials]
 
+//! [button-bubbles]
 void ButtonsPage::AddBubbles()
 {
     auto* row = new QHBoxLayout;
@@ -342,11 +356,13 @@ void ButtonsPage::AddBubbles()
 
     QPushButton* notify = CreateCommand(tr("新消息"), QStringLiteral("bubbleNotify"));
     connect(notify, &QPushButton::clicked, messages, &CVelmarButton::AddBubbleCount);
-    QVBoxLayout* card = AddCard(tr("气泡与状态灯"), tr("打开消息后气泡消失。"));
+    QVBoxLayout* card = AddCard(tr("气泡与状态灯"), tr("打开消息后气泡消失。"), QStringLiteral("button-bubbles"));
     card->addLayout(row);
     card->addWidget(notify);
 }
+//! [button-bubbles]
 
+//! [button-disabled]
 void ButtonsPage::AddDisabled()
 {
     auto* row = new QVBoxLayout;
@@ -361,5 +377,6 @@ void ButtonsPage::AddDisabled()
     text->setCursor(Qt::ArrowCursor);
     text->SetEnabled(false);
     row->addLayout(WithCaption(text, CreateCaption(tr("等待机床连接"))));
-    AddCard(tr("禁用"), tr("点击不会发出信号。"))->addLayout(row);
+    AddCard(tr("禁用"), tr("点击不会发出信号。"), QStringLiteral("button-disabled"))->addLayout(row);
 }
+//! [button-disabled]

@@ -57,6 +57,7 @@ CombosPage::CombosPage(const GalleryOptions&)
     EndRow();
 }
 
+//! [combo-panel]
 CComboBox* CombosPage::CreateBox(const QString& name, const QString& caption, const QStringList& entries,
                                  QHBoxLayout* row)
 {
@@ -75,7 +76,9 @@ CComboBox* CombosPage::CreateBox(const QString& name, const QString& caption, co
     row->addLayout(column);
     return box;
 }
+//! [combo-panel]
 
+//! [combo-panel]
 void CombosPage::AddPanel()
 {
     auto* panel = new QFrame;
@@ -119,8 +122,10 @@ void CombosPage::AddPanel()
         ShowToolCount();
     });
     ShowToolCount();
-    AddCard(tr("加工参数"), tr("深色面板里的下拉框。到第六项时，列表变成可滚动的。"))->addWidget(panel);
+    AddCard(tr("加工参数"), tr("深色面板里的下拉框。到第六项时，列表变成可滚动的。"), QStringLiteral("combo-panel"))
+        ->addWidget(panel);
 }
+//! [combo-panel]
 
 void CombosPage::ShowToolCount()
 {
@@ -130,6 +135,7 @@ void CombosPage::ShowToolCount()
     m_pRemoveTool->setEnabled(count > 1);
 }
 
+//! [combo-table]
 void CombosPage::AddTable()
 {
     struct Part
@@ -188,9 +194,12 @@ void CombosPage::AddTable()
         table->setItem(row, ColumnCount, new QTableWidgetItem(QString::number(part.count)));
         ++row;
     }
-    AddCard(tr("零件清单"), tr("表格里的浅色下拉框，用法与 QComboBox 相同。"))->addWidget(table);
+    AddCard(tr("零件清单"), tr("表格里的浅色下拉框，用法与 QComboBox 相同。"), QStringLiteral("combo-table"))
+        ->addWidget(table);
 }
+//! [combo-table]
 
+//! [combo-focus]
 void CombosPage::AddSpindle()
 {
     auto* box = new CXCombobox(nullptr);
@@ -209,9 +218,11 @@ void CombosPage::AddSpindle()
     row->addWidget(box);
     row->addWidget(saved);
     row->addStretch(1);
-    AddCard(tr("主轴"), tr("离开下拉框时才保存。"))->addLayout(row);
+    AddCard(tr("主轴"), tr("离开下拉框时才保存。"), QStringLiteral("combo-focus"))->addLayout(row);
 }
+//! [combo-focus]
 
+//! [combo-menu]
 void CombosPage::AddMachineMenu()
 {
     m_pMachineMenu = new CVelmarMenu(this);
@@ -252,8 +263,9 @@ void CombosPage::AddMachineMenu()
     auto* row = new QHBoxLayout;
     row->addWidget(open);
     row->addStretch(1);
-    AddCard(tr("菜单"), tr("带图标、快捷键和分隔线的一层菜单。"))->addLayout(row);
+    AddCard(tr("菜单"), tr("带图标、快捷键和分隔线的一层菜单。"), QStringLiteral("combo-menu"))->addLayout(row);
 }
+//! [combo-menu]
 
 void CombosPage::Tell(const QString& what, const QString& value)
 {

@@ -3,7 +3,9 @@
 #include "../GalleryStyle.h"
 #include "../GalleryTile.h"
 #include "../windows/PositionPanel.h"
+#include "../windows/RenameBox.h"
 #include "../windows/SimulationWindow.h"
+#include "../windows/StockBox.h"
 #include "../windows/ToolDialog.h"
 
 #include <CorvaneBase/CorvaneFonts.h>
@@ -14,6 +16,7 @@
 
 FramelessWindowsPage::FramelessWindowsPage(const GalleryOptions&)
     : m_pOutcome(AddOutcomeLine(QStringLiteral("windowOutcome")))
+    , m_strJob(tr("齿轮箱盖"))
 {
     m_pOutcome->setText(tr("还没有打开窗口。"));
 
@@ -36,7 +39,11 @@ FramelessWindowsPage::FramelessWindowsPage(const GalleryOptions&)
     for (int column = 0; column < 3; ++column) {
         grid->setColumnStretch(column, 1);
     }
-    AddCard(tr("打开窗口"), tr("标题栏由程序自己画；空白处可拖动，双击最大化，边缘可缩放。"))->addLayout(grid);
+    AddCard(tr("打开窗口"), tr("标题栏由程序自己画；空白处可拖动，双击最大化，边缘可缩放。"),
+            QStringLiteral("frameless-windows"))
+        ->addLayout(grid);
+
+    AddPopUps();
 
     auto* kinds = new QGridLayout;
     kinds->setHorizontalSpacing(20);
@@ -60,7 +67,7 @@ FramelessWindowsPage::FramelessWindowsPage(const GalleryOptions&)
         ++row;
     }
     kinds->setColumnStretch(1, 1);
-    AddCard(tr("选择哪一种"), QString())->addLayout(kinds);
+    AddCard(tr("选择哪一种"), QString(), QString())->addLayout(kinds);
 }
 
 FramelessWindowsPage::~FramelessWindowsPage()
@@ -68,6 +75,51 @@ FramelessWindowsPage::~FramelessWindowsPage()
     delete m_pPanel;
 }
 
+//! [pop-ups]
+void FramelessWindowsPage::AddPopUps()
+{
+    auto* grid = new QGridLayout;
+    grid->setSpacing(12);
+    auto* stock =
+        new GalleryTile(QStringLiteral("openStock"), QStringLiteral(":/icon/selectbox/stock/ico_scanning_box.png"),
+                        tr("添加毛坯"), QStringLiteral("CVelmarSelectBox"));
+    auto* rename = new GalleryTile(QStringLiteral("openRename"), QStringLiteral(":/gallery/ribbon/log_note.png"),
+                                   tr("重命名"), QStringLiteral("CFixedSizePopWidget"));
+    connect(stock, &QPushButton::clicked, this, &FramelessWindowsPage::OpenStock);
+    connect(rename, &QPushButton::clicked, this, &FramelessWindowsPage::OpenRename);
+    grid->addWidget(stock, 0, 0);
+    grid->addWidget(rename, 0, 1);
+    for (int column = 0; column < 3; ++column) {
+        grid->setColumnStretch(column, 1);
+    }
+    grid->setColumnMinimumWidth(2, 200); // as wide as a tile, so that these stand below those of the card above
+    AddCard(tr("固定大小的弹窗"), tr("拖动标题区移动；回车确认，Esc 关闭；打开时主窗口不可操作。"),
+            QStringLiteral("pop-ups"))
+        ->addLayout(grid);
+}
+
+void FramelessWindowsPage::OpenStock()
+{
+    auto* box = new StockBox(window()); // deletes itself when it closes
+    connect(box, &StockBox::SignalStockAdded, this,
+            [this](const QString& kind) { m_pOutcome->setText(tr("已添加毛坯：%1").arg(kind)); });
+    CorvaneSignalHelper::instance()->AdjustWindowPosition(box);
+    box->show();
+}
+
+void FramelessWindowsPage::OpenRename()
+{
+    auto* box = new RenameBox(m_strJob, window());
+    connect(box, &RenameBox::SignalRenamed, this, [this](const QString& name) {
+        m_strJob = name;
+        m_pOutcome->setText(tr("已重命名为：%1").arg(name));
+    });
+    CorvaneSignalHelper::instance()->AdjustWindowPosition(box);
+    box->show();
+}
+//! [pop-ups]
+
+//! [frameless-windows]
 void FramelessWindowsPage::OpenSimulation()
 {
     auto* simulation = new SimulationWindow(window());
@@ -81,7 +133,9 @@ void FramelessWindowsPage::OpenSimulation()
     CorvaneSignalHelper::instance()->AdjustWindowPosition(simulation);
     simulation->show();
 }
+//! [frameless-windows]
 
+//! [frameless-windows]
 void FramelessWindowsPage::OpenTool()
 {
     auto* dialog = new ToolDialog(window());
@@ -93,7 +147,9 @@ void FramelessWindowsPage::OpenTool()
     CorvaneSignalHelper::instance()->AdjustWindowPosition(dialog);
     dialog->open();
 }
+//! [frameless-windows]
 
+//! [frameless-windows]
 void FramelessWindowsPage::OpenPosition()
 {
     if (!m_pPanel) {
@@ -110,3 +166,4 @@ void FramelessWindowsPage::OpenPosition()
     m_pPanel->show();
     m_pPanel->activateWindow();
 }
+//! [frameless-windows]

@@ -21,7 +21,11 @@ private:
     void OpenSimulation();
     void OpenTool();
     void OpenPosition();
+    void AddPopUps();
+    void OpenStock();
+    void OpenRename();
 
     QLabel* m_pOutcome;
+    QString m_strJob;
     QPointer<PositionPanel> m_pPanel; // has no parent: as a child it would be no window
 };

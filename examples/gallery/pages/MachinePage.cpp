@@ -42,7 +42,8 @@ MachinePage::MachinePage(const GalleryOptions& options)
     grid->addWidget(network, 0, 0);
     grid->addWidget(calibration, 0, 1);
     QVBoxLayout* open =
-        AddCard(tr("打开连接面板"), tr("面板打开期间，在本机端口 %1 上接收机床的通告。").arg(options.iDiscoveryPort));
+        AddCard(tr("打开连接面板"), tr("面板打开期间，在本机端口 %1 上接收机床的通告。").arg(options.iDiscoveryPort),
+                QStringLiteral("machine-panel"));
     open->addLayout(grid);
     open->addWidget(m_pUsbOnly);
 
@@ -53,7 +54,8 @@ MachinePage::MachinePage(const GalleryOptions& options)
     connect(CurrentMachine::instance(), &CurrentMachine::SignalChanged, this, &MachinePage::ShowMachine);
     ShowMachine();
     BeginRow();
-    AddCard(tr("当前机床"), tr("状态栏也会显示当前机床。"))->addWidget(m_pDisconnect);
+    AddCard(tr("当前机床"), tr("状态栏也会显示当前机床。"), QStringLiteral("machine-current"))
+        ->addWidget(m_pDisconnect);
 
     auto* roads = new QGridLayout;
     roads->setHorizontalSpacing(20);
@@ -74,7 +76,7 @@ MachinePage::MachinePage(const GalleryOptions& options)
         roads->addWidget(text, row, 1);
     }
     roads->setColumnStretch(1, 1);
-    AddCard(tr("三条路"), tr("一台机床一行，按接口的优先级保留一个地址。"))->addLayout(roads);
+    AddCard(tr("三条路"), tr("一台机床一行，按接口的优先级保留一个地址。"), QString())->addLayout(roads);
     EndRow();
 
     // A connection over USB is made by the panel itself; this is how the host hears of it.
@@ -85,6 +87,7 @@ MachinePage::MachinePage(const GalleryOptions& options)
             });
 }
 
+//! [machine-current]
 void MachinePage::ShowMachine()
 {
     const CurrentMachine* machine = CurrentMachine::instance();
@@ -92,7 +95,9 @@ void MachinePage::ShowMachine()
     m_pOutcome->setText(machine->IsConnected() ? tr("当前机床：%1，地址 %2").arg(machine->Serial(), machine->Address())
                                                : tr("还没有连接机床。"));
 }
+//! [machine-current]
 
+//! [machine-panel]
 void MachinePage::OpenPanel(bool forCalibration)
 {
     auto* panel = new CSelectMachineBox(window());
@@ -113,3 +118,4 @@ void MachinePage::OpenPanel(bool forCalibration)
     CorvaneSignalHelper::instance()->AdjustWindowPosition(panel);
     panel->show();
 }
+//! [machine-panel]

@@ -78,10 +78,12 @@ MenusPage::MenusPage(const GalleryOptions&)
     layout->addWidget(m_pView, 1);
     m_pHelper->SetMenuPos(0, BarHeight);
     ShowState();
-    AddCard(tr("加工程序"), tr("按下打开，再按关闭；打开时移到旁边的按钮即可切换；点击别处关闭。快捷键同样有效。"))
+    AddCard(tr("加工程序"), tr("按下打开，再按关闭；打开时移到旁边的按钮即可切换；点击别处关闭。快捷键同样有效。"),
+            QStringLiteral("menu-bar"))
         ->addWidget(m_pBench);
 }
 
+//! [menu-bar]
 QPushButton* MenusPage::AddMenu(const QString& objectName, const QString& text, const QList<Row>& rows)
 {
     auto* button = new QPushButton(text, m_pBench);
@@ -97,7 +99,9 @@ QPushButton* MenusPage::AddMenu(const QString& objectName, const QString& text, 
     connect(menu, &CCustomMenu::SignalItemClicked, m_pView, [view = m_pView] { view->setFocus(); });
     return button;
 }
+//! [menu-bar]
 
+//! [menu-bar]
 void MenusPage::Fill(CCustomMenu* menu, const QList<Row>& rows)
 {
     // Separators are as wide as the menu is when they come, so its width has to be known before.
@@ -120,7 +124,9 @@ void MenusPage::Fill(CCustomMenu* menu, const QList<Row>& rows)
     menu->hide();
     m_listMenus.append(menu);
 }
+//! [menu-bar]
 
+//! [menu-bar]
 void MenusPage::AddRow(CCustomMenu* menu, const Row& row)
 {
     if (row.strText.isEmpty()) {
@@ -149,6 +155,7 @@ void MenusPage::AddRow(CCustomMenu* menu, const Row& row)
         });
     }
 }
+//! [menu-bar]
 
 void MenusPage::Run(CCustomMenuItem* row)
 {

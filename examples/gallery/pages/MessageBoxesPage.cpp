@@ -93,6 +93,7 @@ void MessageBoxesPage::AddQuestion(QGridLayout* grid, const QString& name, const
     grid->addWidget(tile, index / Columns, index % Columns);
 }
 
+//! [box-icons]
 void MessageBoxesPage::AddIcons()
 {
     QGridLayout* grid = CreateGrid();
@@ -133,9 +134,11 @@ void MessageBoxesPage::AddIcons()
                     return CVelmarMessageBox::ShowWindow(window(), MsgBtnOk, MsgIconPop5, tr("换刀须知"),
                                                          lines.join(QLatin1Char('\n')), {});
                 });
-    AddCard(tr("图标"), tr("五种图标各用在它自然的场合。"))->addLayout(grid);
+    AddCard(tr("图标"), tr("五种图标各用在它自然的场合。"), QStringLiteral("box-icons"))->addLayout(grid);
 }
+//! [box-icons]
 
+//! [box-entry-points]
 void MessageBoxesPage::AddEntryPoints()
 {
     QGridLayout* grid = CreateGrid();
@@ -195,9 +198,11 @@ void MessageBoxesPage::AddEntryPoints()
     auto* stacked = new GalleryTile(QStringLiteral("boxStacked"), QString(), tr("框上再问"), tr("后开的框先结束"));
     connect(stacked, &QPushButton::clicked, this, &MessageBoxesPage::RunStacked);
     grid->addWidget(stacked, grid->count() / Columns, grid->count() % Columns);
-    AddCard(tr("入口"), tr("每个静态函数一个例子。"))->addLayout(grid);
+    AddCard(tr("入口"), tr("每个静态函数一个例子。"), QStringLiteral("box-entry-points"))->addLayout(grid);
 }
+//! [box-entry-points]
 
+//! [box-icons]
 void MessageBoxesPage::RunPreview()
 {
     // A box that the host ends itself: it is built by hand, run, and let go when the work is done.
@@ -215,7 +220,9 @@ void MessageBoxesPage::RunPreview()
         ShowCode(code);
     }
 }
+//! [box-icons]
 
+//! [box-entry-points]
 void MessageBoxesPage::RunStacked()
 {
     // The first box asks again before it lets its answer through: the second one runs on top of it.
@@ -239,3 +246,4 @@ void MessageBoxesPage::RunStacked()
         ShowCode(confirmed ? confirmed : code);
     }
 }
+//! [box-entry-points]

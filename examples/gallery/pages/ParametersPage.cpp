@@ -59,6 +59,7 @@ ParametersPage::ParametersPage(const GalleryOptions&)
     EndRow();
 }
 
+//! [parameter-materials]
 void ParametersPage::AddMaterials()
 {
     struct Material
@@ -92,12 +93,13 @@ void ParametersPage::AddMaterials()
         });
         row->addWidget(tile);
     }
-    AddCard(tr("毛坯材料"), QString())->addLayout(row);
+    AddCard(tr("毛坯材料"), QString(), QStringLiteral("parameter-materials"))->addLayout(row);
 }
+//! [parameter-materials]
 
 void ParametersPage::AddParameters()
 {
-    QVBoxLayout* content = AddCard(tr("加工参数"), QString());
+    QVBoxLayout* content = AddCard(tr("加工参数"), QString(), QStringLiteral("parameter-fields"));
     content->addWidget(CreateStock());
     content->addWidget(CreateOptions());
 
@@ -142,6 +144,7 @@ void ParametersPage::AddParameters()
     });
 }
 
+//! [parameter-fields]
 QWidget* ParametersPage::CreateStock()
 {
     auto* panel = new QFrame;
@@ -179,7 +182,9 @@ QWidget* ParametersPage::CreateStock()
     });
     return panel;
 }
+//! [parameter-fields]
 
+//! [parameter-fields]
 CTextEdit* ParametersPage::CreateField(const QString& objectName, const QString& name, const QString& value,
                                        const QString& unit)
 {
@@ -191,7 +196,9 @@ CTextEdit* ParametersPage::CreateField(const QString& objectName, const QString&
     });
     return field;
 }
+//! [parameter-fields]
 
+//! [parameter-fields]
 QWidget* ParametersPage::CreateAnglePresets(CTextEdit* angle)
 {
     auto* presets = new QWidget;
@@ -215,7 +222,9 @@ QWidget* ParametersPage::CreateAnglePresets(CTextEdit* angle)
     }
     return presets;
 }
+//! [parameter-fields]
 
+//! [parameter-fields]
 QWidget* ParametersPage::CreateOptions()
 {
     struct Option
@@ -242,7 +251,9 @@ QWidget* ParametersPage::CreateOptions()
     }
     return panel;
 }
+//! [parameter-fields]
 
+//! [parameter-steps]
 void ParametersPage::AddSteps()
 {
     auto* panel = new QFrame;
@@ -262,8 +273,10 @@ void ParametersPage::AddSteps()
         AppendStep(list);
     }
     list->setCurrentRow(0);
-    AddCard(tr("加工工序"), tr("列表还有内容时，按钮上方出现一条细线。"))->addWidget(panel, 0, Qt::AlignHCenter);
+    AddCard(tr("加工工序"), tr("列表还有内容时，按钮上方出现一条细线。"), QStringLiteral("parameter-steps"))
+        ->addWidget(panel, 0, Qt::AlignHCenter);
 }
+//! [parameter-steps]
 
 QListWidget* ParametersPage::CreateStepList(QWidget* panel)
 {
@@ -278,6 +291,7 @@ QListWidget* ParametersPage::CreateStepList(QWidget* panel)
     return list;
 }
 
+//! [parameter-steps]
 void ParametersPage::AddFunctions(CFunctionBtnWidget* strip, QListWidget* list)
 {
     struct Function
@@ -311,6 +325,7 @@ void ParametersPage::AddFunctions(CFunctionBtnWidget* strip, QListWidget* list)
     connect(buttons.last(), &CVelmarButton::SignalClicked, this,
             [this, list] { m_pOutcome->setText(tr("已为 %1 道工序生成刀路").arg(list->count())); });
 }
+//! [parameter-steps]
 
 void ParametersPage::AppendStep(QListWidget* list)
 {

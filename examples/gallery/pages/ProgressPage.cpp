@@ -2,6 +2,8 @@
 
 #include "../GalleryTile.h"
 
+#include <CorvaneBase/CorvaneFonts.h>
+#include <CustomControls/CProgressWidget/CProgressBar.h>
 #include <CustomControls/messagebox/CVelmarMessageBox.h>
 
 #include <QGridLayout>
@@ -13,11 +15,16 @@ constexpr int AutomaticMs = 3500;
 constexpr int JobStep = 2;
 constexpr int JobIntervalMs = 60;
 constexpr int StageValue = 50;
+constexpr int QueueMs = 120;
+constexpr int BarHeight = 18;
+constexpr auto BarSheet = "QProgressBar{background:#e6e9e8;border:none;border-radius:4px;}"
+                          "QProgressBar::chunk{background:%1;border-radius:4px;}";
 } // namespace
 
 ProgressPage::ProgressPage(const GalleryOptions&)
     : m_pOutcome(AddOutcomeLine(QStringLiteral("progressOutcome")))
     , m_pJob(new QTimer(this))
+    , m_pQueue(new QTimer(this))
 {
     m_pOutcome->setText(tr("点击一个例子开始。"));
     connect(m_pJob, &QTimer::timeout, this, [this] {
@@ -50,7 +57,59 @@ ProgressPage::ProgressPage(const GalleryOptions&)
     add(QStringLiteral("progressClose"), tr("可以取消"), tr("BindCloseButton：关闭前先询问"),
         &ProgressPage::RunCancellable);
     add(QStringLiteral("progressLong"), tr("长提示"), tr("文字换行，窗口随之增高"), &ProgressPage::RunWithLongText);
-    AddCard(tr("例子"), tr("对话框打开时其余窗口不可操作，任务结束后自动关闭。"))->addLayout(grid);
+    AddCard(tr("例子"), tr("对话框打开时其余窗口不可操作，任务结束后自动关闭。"), QStringLiteral("progress-dialogs"))
+        ->addLayout(grid);
+    AddBars();
+}
+
+//! [progress-bars]
+void ProgressPage::AddBars()
+{
+    struct Job
+    {
+        QString name;
+        int done;
+        const char* color;
+    };
+    const Job jobs[] = {
+        {tr("支架  粗加工"), 72, "#188553"}, {tr("支架  精加工"), 38, "#2ab475"}, {tr("铭牌  雕刻"), 8, "#285be3"}};
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(20);
+    grid->setVerticalSpacing(12);
+    grid->setColumnStretch(1, 1);
+    int row = 0;
+    for (const Job& job : jobs) {
+        auto* name = new QLabel(job.name);
+        name->setFont(FontCn_14);
+        auto* bar = new CProgressBar;
+        bar->setObjectName(QStringLiteral("queueBar%1").arg(row));
+        bar->setAccessibleName(job.name);
+        bar->setFont(FontCn_12);
+        bar->setFixedHeight(BarHeight);
+        bar->setStyleSheet(QLatin1String(BarSheet).arg(QLatin1String(job.color)));
+        bar->setTextVisible(false); // the toolkit's own text; the bar writes a better one
+        bar->SetColor(QColor(0x33, 0x33, 0x33), Qt::white);
+        bar->setValue(job.done);
+        connect(m_pQueue, &QTimer::timeout, bar, [bar] { bar->setValue(bar->value() % bar->maximum() + 1); });
+        grid->addWidget(name, row, 0);
+        grid->addWidget(bar, row, 1);
+        ++row;
+    }
+    m_pQueue->setInterval(QueueMs);
+    AddCard(tr("加工队列"), tr("进度条里的百分比在填充的边缘换色。"), QStringLiteral("progress-bars"))->addLayout(grid);
+}
+//! [progress-bars]
+
+void ProgressPage::showEvent(QShowEvent* event)
+{
+    GalleryPage::showEvent(event);
+    m_pQueue->start();
+}
+
+void ProgressPage::hideEvent(QHideEvent* event)
+{
+    GalleryPage::hideEvent(event);
+    m_pQueue->stop();
 }
 
 ProgressPage::~ProgressPage()
@@ -58,6 +117,7 @@ ProgressPage::~ProgressPage()
     CProgressWidget::FreeAutoWidget(m_pDialog, false);
 }
 
+//! [progress-dialogs]
 void ProgressPage::Open(const QString& text, const QString& title)
 {
     CProgressWidget::FreeAutoWidget(m_pDialog, false);
@@ -67,6 +127,7 @@ void ProgressPage::Open(const QString& text, const QString& title)
     m_pDialog->show();
     m_pOutcome->setText(tr("正在运行：%1").arg(title));
 }
+//! [progress-dialogs]
 
 void ProgressPage::StartJob(int intervalMs, bool writeReference)
 {
@@ -75,6 +136,7 @@ void ProgressPage::StartJob(int intervalMs, bool writeReference)
     m_pJob->start(intervalMs);
 }
 
+//! [progress-dialogs]
 void ProgressPage::Finish(const QString& outcome)
 {
     m_pJob->stop();
@@ -82,7 +144,9 @@ void ProgressPage::Finish(const QString& outcome)
     m_pDialog.clear();
     m_pOutcome->setText(outcome);
 }
+//! [progress-dialogs]
 
+//! [progress-dialogs]
 void ProgressPage::RunAutomatically()
 {
     m_pDialog = CProgressWidget::CreateAutoWidget(tr("正在分析模型"), tr("打开模型"));
@@ -94,13 +158,17 @@ void ProgressPage::RunAutomatically()
         Finish(tr("任务完成"));
     });
 }
+//! [progress-dialogs]
 
+//! [progress-dialogs]
 void ProgressPage::RunByValue()
 {
     Open(tr("正在导出刀路"), tr("导出"));
     StartJob(JobIntervalMs, false);
 }
+//! [progress-dialogs]
 
+//! [progress-dialogs]
 void ProgressPage::RunWithStages()
 {
     Open(tr("正在读取点云"), tr("导入扫描数据"));
@@ -108,7 +176,9 @@ void ProgressPage::RunWithStages()
     m_pDialog->extrAddNumRun();
     StartJob(JobIntervalMs, true);
 }
+//! [progress-dialogs]
 
+//! [progress-dialogs]
 void ProgressPage::RunCancellable()
 {
     Open(tr("正在上传加工文件"), tr("上传"));
@@ -130,6 +200,7 @@ void ProgressPage::RunCancellable()
     });
     StartJob(4 * JobIntervalMs, false);
 }
+//! [progress-dialogs]
 
 void ProgressPage::RunWithLongText()
 {

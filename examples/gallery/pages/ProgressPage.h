@@ -18,7 +18,12 @@ public:
     explicit ProgressPage(const GalleryOptions& options);
     ~ProgressPage() override;
 
+protected:
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
 private:
+    void AddBars();
     void RunAutomatically();
     void RunByValue();
     void RunWithStages();
@@ -34,6 +39,7 @@ private:
     QLabel* m_pOutcome;
     QPointer<CProgressWidget> m_pDialog;
     QTimer* m_pJob;
+    QTimer* m_pQueue; ///< moves the bars of the queue while they are seen
     int m_iDone = 0;
     bool m_bWriteReference = false;
 };

@@ -19,11 +19,13 @@ constexpr int LongestText = 40;
 constexpr auto BrowserSheet = "#textManual{background:#ffffff;border:1px solid #d5d5d5;border-radius:2px;}";
 
 /** The two views have no installed headers: a host makes them by name and uses them as what they derive from. */
+//! [text-notes]
 template <class Base>
 Base* CreateByName(const char* name)
 {
     return qobject_cast<Base*>(static_cast<QObject*>(QMetaType::fromName(name).create()));
 }
+//! [text-notes]
 
 QString Chapter(const QString& title, const QString& text)
 {
@@ -42,9 +44,10 @@ TextPage::TextPage(const GalleryOptions&)
     connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &TextPage::ShowClipboard);
 }
 
+//! [text-notes]
 void TextPage::AddNotes()
 {
-    QVBoxLayout* card = AddCard(tr("加工备注"), tr("右键菜单：剪切、复制、粘贴、全选。"));
+    QVBoxLayout* card = AddCard(tr("加工备注"), tr("右键菜单：剪切、复制、粘贴、全选。"), QStringLiteral("text-notes"));
     if (auto* notes = CreateByName<QPlainTextEdit>("CPlainTextEdit")) {
         notes->setObjectName(QStringLiteral("textNotes"));
         notes->setFont(FontCn_14);
@@ -54,10 +57,12 @@ void TextPage::AddNotes()
         card->addWidget(notes);
     }
 }
+//! [text-notes]
 
+//! [text-manual]
 void TextPage::AddManual()
 {
-    QVBoxLayout* card = AddCard(tr("操作手册"), tr("只读；选中文字后右键可以复制。"));
+    QVBoxLayout* card = AddCard(tr("操作手册"), tr("只读；选中文字后右键可以复制。"), QStringLiteral("text-manual"));
     if (auto* manual = CreateByName<QTextBrowser>("CTextBrowser")) {
         manual->setObjectName(QStringLiteral("textManual"));
         manual->setStyleSheet(QLatin1String(BrowserSheet));
@@ -71,6 +76,7 @@ void TextPage::AddManual()
         card->addWidget(manual);
     }
 }
+//! [text-manual]
 
 void TextPage::ShowClipboard()
 {

@@ -7,15 +7,19 @@
 #include <CustomControls/buttons/CHintButton.h>
 #include <CustomControls/buttons/CHintTextToolTip.h>
 #include <CustomControls/buttons/CompactBrowser.h>
+#include <CustomControls/feedback/CFrostedToolTip.h>
 #include <CustomControls/feedback/ToolTipEventFilter.h>
 
+#include <QClipboard>
 #include <QFrame>
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTextBrowser>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace {
@@ -24,6 +28,8 @@ constexpr int ToolIconSize = 32;
 constexpr int HintSize = 20;
 constexpr int FieldWidth = 96;
 constexpr int NoteWidth = 260;
+constexpr int CopiedMs = 1500;
+constexpr int CopiedGap = 8;
 constexpr int JobWidth = 200;
 constexpr auto ToolSheet = "QPushButton{border:1px solid #e2e2e2;border-radius:6px;background:#ffffff;}"
                            "QPushButton:hover{border-color:#188553;background:#f4faf7;}";
@@ -38,6 +44,7 @@ constexpr auto NoteSheet = "#noteCard{background:#2b3238;border-radius:6px;}"
                            "#noteTitle{color:#ffffff;background:transparent;}";
 
 /** A note with a heading over a block of text, as a host derives one. */
+//! [tip-hints]
 class ExplainedNote : public CHintToolTip
 {
 public:
@@ -62,6 +69,7 @@ public:
         layout->addWidget(card);
     }
 };
+//! [tip-hints]
 } // namespace
 
 TipsPage::TipsPage(const GalleryOptions&)
@@ -77,6 +85,7 @@ TipsPage::TipsPage(const GalleryOptions&)
     AddParameters();
     AddJobs();
     EndRow();
+    AddPosition();
 }
 
 void TipsPage::hideEvent(QHideEvent* event)
@@ -87,6 +96,7 @@ void TipsPage::hideEvent(QHideEvent* event)
     }
 }
 
+//! [tip-frosted]
 void TipsPage::AddToolBar()
 {
     struct Tool
@@ -120,9 +130,11 @@ void TipsPage::AddToolBar()
         row->addWidget(button);
     }
     row->addStretch(1);
-    AddCard(tr("工具栏"), tr("一行、两行、富文本和较长的提示。"))->addLayout(row);
+    AddCard(tr("工具栏"), tr("一行、两行、富文本和较长的提示。"), QStringLiteral("tip-frosted"))->addLayout(row);
 }
+//! [tip-frosted]
 
+//! [tip-edges]
 void TipsPage::AddEdges()
 {
     const QString names[3][3] = {
@@ -148,9 +160,11 @@ void TipsPage::AddEdges()
             grid->addWidget(dock, row, column);
         }
     }
-    AddCard(tr("点动面板"), tr("停靠在屏幕的边角；提示不会伸出屏幕。"))->addLayout(grid);
+    AddCard(tr("点动面板"), tr("停靠在屏幕的边角；提示不会伸出屏幕。"), QStringLiteral("tip-edges"))->addLayout(grid);
 }
+//! [tip-edges]
 
+//! [tip-hints]
 CHintButton* TipsPage::AddParameter(QGridLayout* grid, const QString& name, const QString& value, const QString& unit,
                                     const QString& hintName)
 {
@@ -177,7 +191,9 @@ CHintButton* TipsPage::AddParameter(QGridLayout* grid, const QString& name, cons
     grid->addWidget(hint, row, 3);
     return hint;
 }
+//! [tip-hints]
 
+//! [tip-hints]
 void TipsPage::AddParameters()
 {
     auto* grid = new QGridLayout;
@@ -203,9 +219,12 @@ void TipsPage::AddParameters()
     life->SetHoverShow(false);
     life->SetToolTip(new ExplainedNote(
         tr("寿命怎样计算"), tr("按主轴带负载的时间累计，空走不计。铝合金按 1 倍，不锈钢按 2.5 倍计入。"), this));
-    AddCard(tr("加工参数"), tr("指针停留或点击感叹号查看说明；刀具寿命只在点击后显示。"))->addLayout(grid);
+    AddCard(tr("加工参数"), tr("指针停留或点击感叹号查看说明；刀具寿命只在点击后显示。"), QStringLiteral("tip-hints"))
+        ->addLayout(grid);
 }
+//! [tip-hints]
 
+//! [tip-jobs]
 void TipsPage::AddJobs()
 {
     const QString jobs[] = {tr("支架_铝合金_粗加工_6mm平底刀_第3次修订.nc"), tr("奖章_黄铜_精加工.nc"),
@@ -225,5 +244,35 @@ void TipsPage::AddJobs()
         connect(button, &QPushButton::clicked, this, [this, job] { m_pOutcome->setText(tr("打开：%1").arg(job)); });
         column->addWidget(button);
     }
-    AddCard(tr("最近的刀路"), tr("长文件名逐字换行，放不下的省略；全名在提示里。"))->addLayout(column);
+    AddCard(tr("最近的刀路"), tr("长文件名逐字换行，放不下的省略；全名在提示里。"), QStringLiteral("tip-jobs"))
+        ->addLayout(column);
 }
+//! [tip-jobs]
+
+//! [tip-copied]
+void TipsPage::AddPosition()
+{
+    const QString position = QStringLiteral("X 128.450   Y -36.120   Z 12.000");
+    auto* figures = new QLabel(position);
+    figures->setObjectName(QStringLiteral("tipPosition"));
+    figures->setFont(FontCnBold_16);
+    figures->setStyleSheet(QStringLiteral("color:%1;").arg(QLatin1String(GalleryStyle::Ink)));
+    QPushButton* copy = CreateCommand(tr("复制坐标"), QStringLiteral("tipCopy"));
+    connect(copy, &QPushButton::clicked, this, [this, copy, position] {
+        QGuiApplication::clipboard()->setText(position);
+        // A tip that the host shows by itself goes when the host says so, and deletes itself then.
+        auto* tip = new CFrostedToolTip(tr("坐标已复制到剪贴板"), this);
+        tip->setObjectName(QStringLiteral("tipCopied"));
+        tip->move(copy->mapToGlobal(QPoint(0, copy->height() + CopiedGap)));
+        tip->show();
+        QTimer::singleShot(CopiedMs, tip, &CFrostedToolTip::Hide);
+    });
+    auto* row = new QHBoxLayout;
+    row->setSpacing(24);
+    row->addWidget(figures);
+    row->addWidget(copy);
+    row->addStretch(1);
+    AddCard(tr("机床坐标"), tr("程序也可以自己显示磨砂提示，确认刚才的操作。"), QStringLiteral("tip-copied"))
+        ->addLayout(row);
+}
+//! [tip-copied]

@@ -24,6 +24,7 @@ private:
     void AddEdges();
     void AddParameters();
     void AddJobs();
+    void AddPosition();
     /** A parameter: name, value and unit, and the button that explains it. */
     CHintButton* AddParameter(QGridLayout* grid, const QString& name, const QString& value, const QString& unit,
                               const QString& hintName);

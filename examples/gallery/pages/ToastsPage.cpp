@@ -26,6 +26,7 @@ ToastsPage::ToastsPage(const GalleryOptions&)
     AddTypes();
 }
 
+//! [toast-view]
 void ToastsPage::AddView()
 {
     m_pView->setFixedHeight(ViewHeight);
@@ -33,8 +34,9 @@ void ToastsPage::AddView()
             [this](int turn, int tilt) { m_pOutcome->setText(tr("视图：旋转 %1°，俯仰 %2°").arg(turn).arg(tilt)); });
     connect(m_pView, &MachiningView::SignalDoubleClicked, this,
             [this](bool onModel) { ShowToast(onModel ? ToastWidget::ToastLeaveEdit : ToastWidget::ToastModelEdit); });
-    AddCard(QString(), QString())->addWidget(m_pView);
+    AddCard(tr("加工区"), tr("双击模型或空白处也会出现提示。"), QStringLiteral("toast-view"))->addWidget(m_pView);
 }
+//! [toast-view]
 
 void ToastsPage::AddTypes()
 {
@@ -55,10 +57,12 @@ void ToastsPage::AddTypes()
     for (int column = 0; column < Columns; ++column) {
         grid->setColumnStretch(column, 1);
     }
-    AddCard(tr("二十种提示"), tr("编号即类型的值；10、19、20 与自定义文字是警告，3 没有内容，不显示。"))
+    AddCard(tr("二十种提示"), tr("编号即类型的值；10、19、20 与自定义文字是警告，3 没有内容，不显示。"),
+            QStringLiteral("toast-types"))
         ->addLayout(grid);
 }
 
+//! [toast-types]
 void ToastsPage::ShowToast(int type)
 {
     delete m_pToast;
@@ -71,7 +75,9 @@ void ToastsPage::ShowToast(int type)
     m_timer.start(ToastMs);
     m_pOutcome->setText(type == FreeType ? tr("类型 %1 没有内容。").arg(type) : tr("显示类型 %1。").arg(type));
 }
+//! [toast-types]
 
+//! [toast-view]
 void ToastsPage::FollowToast(int type)
 {
     switch (type) {
@@ -91,14 +97,18 @@ void ToastsPage::FollowToast(int type)
         break;
     }
 }
+//! [toast-view]
 
+//! [toast-types]
 void ToastsPage::PlaceToast()
 {
     if (m_pToast) {
         m_pToast->move(m_pView->mapToGlobal(QPoint((m_pView->width() - m_pToast->width()) / 2, ToastTop)));
     }
 }
+//! [toast-types]
 
+//! [toast-types]
 bool ToastsPage::eventFilter(QObject* watched, QEvent* event)
 {
     // The strip is a window of its own: it follows when the main window moves, and goes when that one does.
@@ -109,6 +119,7 @@ bool ToastsPage::eventFilter(QObject* watched, QEvent* event)
     }
     return GalleryPage::eventFilter(watched, event);
 }
+//! [toast-types]
 
 void ToastsPage::showEvent(QShowEvent* event)
 {

@@ -49,6 +49,7 @@ QIcon Picture(int type)
 }
 } // namespace
 
+//! [tool-tables]
 ToolTable::ToolTable(const QList<MagazineTool>& tools, const QList<int>& eligibleTypes, QWidget* parent)
     : QTableView(parent)
     , m_tools(tools)
@@ -91,6 +92,7 @@ ToolTable::ToolTable(const QList<MagazineTool>& tools, const QList<int>& eligibl
     verticalHeader()->setDefaultSectionSize(RowHeight);
     setFixedHeight(HeaderHeight + RowHeight * int(tools.size()) + 2);
 }
+//! [tool-tables]
 
 void ToolTable::AddTool(const MagazineTool& tool)
 {

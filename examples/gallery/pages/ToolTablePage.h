@@ -14,12 +14,17 @@ public:
     explicit ToolTablePage(const GalleryOptions& options);
 
 private:
-    ToolTable* AddTable(const QString& name, const QString& title, const QString& hint, const QList<int>& types);
+    ToolTable* AddTable(const QString& name, const QString& title, const QString& hint, const QString& source,
+                        const QList<int>& types);
     void AddConfirmation();
+    void AddPrograms();
+    /** Lists the chosen tools as the box that confirms them does. */
+    void ShowChosen();
     void Confirm();
     void ShowTool(const QString& text, const ToolTable* table, int row);
 
     QLabel* m_pOutcome;
     ToolTable* m_pRoughing;
     ToolTable* m_pFinishing;
+    QVBoxLayout* m_pChosen = nullptr;
 };

@@ -21,6 +21,7 @@ constexpr int PictureSize = 96;
 constexpr QSize PreviewSize(760, 480);
 
 /** The window of an internal build: the mark lies over all of it and follows it. */
+//! [watermark]
 class PreviewWindow : public QWidget
 {
 public:
@@ -63,7 +64,9 @@ private:
     MachiningView* m_pView;
     CWatermarkWidget* m_pWatermark;
 };
+//! [watermark]
 
+//! [animation]
 CVelmarAnimation* CreateAnimation(const QString& name, const QStringList& images, int intervalMs)
 {
     auto* animation = new CVelmarAnimation(nullptr);
@@ -74,6 +77,7 @@ CVelmarAnimation* CreateAnimation(const QString& name, const QStringList& images
     animation->SetShowIntervalTime(intervalMs);
     return animation;
 }
+//! [animation]
 } // namespace
 
 WatermarkPage::WatermarkPage(const GalleryOptions&)
@@ -110,10 +114,12 @@ void WatermarkPage::AddWatermark()
         [](QWidget* preview) { preview->resize(preview->size() + QSize(80, 50)); });
     add(tr("关闭"), QStringLiteral("closePreview"), [](QWidget* preview) { preview->close(); });
     row->addStretch(1);
-    AddCard(tr("内测标记"), tr("标记是一个独立的窗口，鼠标和键盘都能穿过；预览窗口移动或缩放时它跟着走。"))
+    AddCard(tr("内测标记"), tr("标记是一个独立的窗口，鼠标和键盘都能穿过；预览窗口移动或缩放时它跟着走。"),
+            QStringLiteral("watermark"))
         ->addLayout(row);
 }
 
+//! [watermark]
 void WatermarkPage::OpenPreview()
 {
     if (!m_pPreview) {
@@ -126,7 +132,9 @@ void WatermarkPage::OpenPreview()
     m_pPreview->raise();
     m_pPreview->activateWindow();
 }
+//! [watermark]
 
+//! [animation]
 void WatermarkPage::AddAnimations()
 {
     QStringList spindle;
@@ -168,5 +176,6 @@ void WatermarkPage::AddAnimations()
     }
     row->insertLayout(1, commands);
     row->addStretch(1);
-    AddCard(tr("逐帧动画"), tr("图片按间隔逐张显示。"))->addLayout(row);
+    AddCard(tr("逐帧动画"), tr("图片按间隔逐张显示。"), QStringLiteral("animation"))->addLayout(row);
 }
+//! [animation]

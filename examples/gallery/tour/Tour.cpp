@@ -57,6 +57,7 @@ bool Tour::Prepare(const QStringList& onlyGroups, QString* problem)
     groups.push_back(TourText(this));
     groups.push_back(TourSearch(this));
     groups.push_back(TourLanguage(this));
+    groups.push_back(TourExamples(this));
     groups.push_back(TourMachine(this));
     groups.push_back(TourToolConfirmation(this));
     groups.push_back(TourToolTable(this));

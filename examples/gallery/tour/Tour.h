@@ -136,6 +136,7 @@ TourGroup TourUsb(Tour* tour);
 TourGroup TourCombos(Tour* tour);
 TourGroup TourText(Tour* tour);
 TourGroup TourSearch(Tour* tour);
+TourGroup TourExamples(Tour* tour);
 TourGroup TourLanguage(Tour* tour);
 
 /** The step that opens a page by a click on its name in the page list. */

@@ -489,6 +489,45 @@
         <source>机床坐标已打开。</source>
         <translation>The machine position is open.</translation>
     </message>
+    <message>
+        <source>齿轮箱盖</source>
+        <translation>Gearbox cover</translation>
+    </message>
+    <message>
+        <source>添加毛坯</source>
+        <translation>Add stock</translation>
+    </message>
+    <message>
+        <source>重命名</source>
+        <translation>Rename</translation>
+    </message>
+    <message>
+        <source>固定大小的弹窗</source>
+        <translation>Pop-ups of a fixed size</translation>
+    </message>
+    <message>
+        <source>拖动标题区移动；回车确认，Esc 关闭；打开时主窗口不可操作。</source>
+        <translation>Drag the title area to move; Return confirms, Esc closes; the main window waits meanwhile.</translation>
+    </message>
+    <message>
+        <source>已添加毛坯：%1</source>
+        <translation>Stock added: %1</translation>
+    </message>
+    <message>
+        <source>已重命名为：%1</source>
+        <translation>Renamed to: %1</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryPage</name>
+    <message>
+        <source>查看源代码</source>
+        <translation>Show the source</translation>
+    </message>
+    <message>
+        <source>%1：查看源代码</source>
+        <translation>%1: show the source</translation>
+    </message>
 </context>
 <context>
     <name>GalleryRibbon</name>
@@ -1664,14 +1703,6 @@
         <translation>A question in one call, which returns the button that the user pressed.</translation>
     </message>
     <message>
-        <source>刀具表</source>
-        <translation>Tool table</translation>
-    </message>
-    <message>
-        <source>刀库里的刀具：能用的可以选择，直径和长度就地修改。</source>
-        <translation>The tools of the magazine: those that fit can be chosen, diameter and length are edited in place.</translation>
-    </message>
-    <message>
         <source>连接机床</source>
         <translation>Machine connection</translation>
     </message>
@@ -1694,6 +1725,22 @@
     <message>
         <source>没有系统边框的主窗口和对话框，标题栏由程序自己画。</source>
         <translation>Main windows and dialogs without a system frame; the program draws their title bars.</translation>
+    </message>
+    <message>
+        <source>工具栏与标签页</source>
+        <translation>Tool bars and tabs</translation>
+    </message>
+    <message>
+        <source>成组的工具、细工具栏和深色标签页；窗口上方的功能区也由它们组成。</source>
+        <translation>Blocks of tools, slim bars and dark tabs; the ribbon above is made of them too.</translation>
+    </message>
+    <message>
+        <source>刀具与程序</source>
+        <translation>Tools and programs</translation>
+    </message>
+    <message>
+        <source>刀库里的刀具：能用的可以选择，直径和长度就地修改；以及等待加工的程序。</source>
+        <translation>The magazine’s tools: choose those that fit, edit diameter and length in place; and the programs that wait.</translation>
     </message>
 </context>
 <context>
@@ -1992,6 +2039,45 @@
         <source>升级固件</source>
         <translation>Firmware upgrade</translation>
     </message>
+    <message>
+        <source>支架  粗加工</source>
+        <translation>Bracket, roughing</translation>
+    </message>
+    <message>
+        <source>支架  精加工</source>
+        <translation>Bracket, finishing</translation>
+    </message>
+    <message>
+        <source>铭牌  雕刻</source>
+        <translation>Nameplate, engraving</translation>
+    </message>
+    <message>
+        <source>加工队列</source>
+        <translation>Job queue</translation>
+    </message>
+    <message>
+        <source>进度条里的百分比在填充的边缘换色。</source>
+        <translation>The percentage changes its colour at the edge of the filled part.</translation>
+    </message>
+</context>
+<context>
+    <name>RenameBox</name>
+    <message>
+        <source>重命名</source>
+        <translation>Rename</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>确定</source>
+        <translation>OK</translation>
+    </message>
 </context>
 <context>
     <name>SimulationWindow</name>
@@ -2005,6 +2091,29 @@
     </message>
 </context>
 <context>
+    <name>SourceDialog</name>
+    <message>
+        <source>已复制到剪贴板。</source>
+        <translation>Copied to the clipboard.</translation>
+    </message>
+    <message>
+        <source>源代码</source>
+        <translation>Source</translation>
+    </message>
+    <message>
+        <source>源代码：%1</source>
+        <translation>Source: %1</translation>
+    </message>
+    <message>
+        <source>全部复制</source>
+        <translation>Copy all</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
     <name>StatusLine</name>
     <message>
         <source>已连接机床 %1，地址 %2</source>
@@ -2013,6 +2122,29 @@
     <message>
         <source>未连接机床</source>
         <translation>No machine connected</translation>
+    </message>
+</context>
+<context>
+    <name>StockBox</name>
+    <message>
+        <source>添加毛坯</source>
+        <translation>Add stock</translation>
+    </message>
+    <message>
+        <source>添加</source>
+        <translation>Add</translation>
+    </message>
+    <message>
+        <source>方料</source>
+        <translation>Block</translation>
+    </message>
+    <message>
+        <source>圆料</source>
+        <translation>Round bar</translation>
+    </message>
+    <message>
+        <source>模型</source>
+        <translation>Model</translation>
     </message>
 </context>
 <context>
@@ -2254,6 +2386,22 @@ for the fourth axis</translation>
         <source>长文件名逐字换行，放不下的省略；全名在提示里。</source>
         <translation>Long names wrap by character and are elided; the note has the whole name.</translation>
     </message>
+    <message>
+        <source>复制坐标</source>
+        <translation>Copy position</translation>
+    </message>
+    <message>
+        <source>坐标已复制到剪贴板</source>
+        <translation>Position copied to the clipboard</translation>
+    </message>
+    <message>
+        <source>机床坐标</source>
+        <translation>Machine position</translation>
+    </message>
+    <message>
+        <source>程序也可以自己显示磨砂提示，确认刚才的操作。</source>
+        <translation>A program can show a frosted tip by itself, to confirm what was just done.</translation>
+    </message>
 </context>
 <context>
     <name>ToastsPage</name>
@@ -2348,6 +2496,137 @@ for the fourth axis</translation>
     <message>
         <source>显示类型 %1。</source>
         <translation>Type %1 shows.</translation>
+    </message>
+    <message>
+        <source>加工区</source>
+        <translation>Work area</translation>
+    </message>
+    <message>
+        <source>双击模型或空白处也会出现提示。</source>
+        <translation>A double click on the model, or beside it, brings a toast too.</translation>
+    </message>
+</context>
+<context>
+    <name>ToolBarsPage</name>
+    <message>
+        <source>换一个标签页，或按下一个工具，这里会显示结果。</source>
+        <translation>Change the tab or use a tool; the outcome is told here.</translation>
+    </message>
+    <message>
+        <source>工作台</source>
+        <translation>Table</translation>
+    </message>
+    <message>
+        <source>行程 X</source>
+        <translation>Travel X</translation>
+    </message>
+    <message>
+        <source>行程 Y</source>
+        <translation>Travel Y</translation>
+    </message>
+    <message>
+        <source>行程 Z</source>
+        <translation>Travel Z</translation>
+    </message>
+    <message>
+        <source>主轴</source>
+        <translation>Spindle</translation>
+    </message>
+    <message>
+        <source>最高转速</source>
+        <translation>Top speed</translation>
+    </message>
+    <message>
+        <source>功率</source>
+        <translation>Power</translation>
+    </message>
+    <message>
+        <source>夹头</source>
+        <translation>Collet</translation>
+    </message>
+    <message>
+        <source>刀库</source>
+        <translation>Magazine</translation>
+    </message>
+    <message>
+        <source>刀位</source>
+        <translation>Places</translation>
+    </message>
+    <message>
+        <source>换刀时间</source>
+        <translation>Tool change</translation>
+    </message>
+    <message>
+        <source>最长刀具</source>
+        <translation>Longest tool</translation>
+    </message>
+    <message>
+        <source>标签页：%1</source>
+        <translation>Tab: %1</translation>
+    </message>
+    <message>
+        <source>标签页</source>
+        <translation>Tabs</translation>
+    </message>
+    <message>
+        <source>深色的标签，各占一份宽度；当前页与标签连成一体。</source>
+        <translation>Dark tabs that share the width; the current one and its page are one.</translation>
+    </message>
+    <message>
+        <source>工具栏</source>
+        <translation>Tool bars</translation>
+    </message>
+    <message>
+        <source>上面是一组工具：两个大按钮和一叠小按钮；下面的细工具栏切换视图里的内容。</source>
+        <translation>Above a block of tools, two large ones and a stack of small ones; below a slim bar that switches what the view shows.</translation>
+    </message>
+    <message>
+        <source>视角</source>
+        <translation>View from</translation>
+    </message>
+    <message>
+        <source>等轴测</source>
+        <translation>Isometric</translation>
+    </message>
+    <message>
+        <source>俯视</source>
+        <translation>Top</translation>
+    </message>
+    <message>
+        <source>前视</source>
+        <translation>Front</translation>
+    </message>
+    <message>
+        <source>左视</source>
+        <translation>Left</translation>
+    </message>
+    <message>
+        <source>视角：%1（小按钮）</source>
+        <translation>View: %1 (small button)</translation>
+    </message>
+    <message>
+        <source>视角：%1</source>
+        <translation>View: %1</translation>
+    </message>
+    <message>
+        <source>网格</source>
+        <translation>Grid</translation>
+    </message>
+    <message>
+        <source>坐标轴</source>
+        <translation>Axes</translation>
+    </message>
+    <message>
+        <source>刀路</source>
+        <translation>Toolpath</translation>
+    </message>
+    <message>
+        <source>%1：显示</source>
+        <translation>%1: shown</translation>
+    </message>
+    <message>
+        <source>%1：隐藏</source>
+        <translation>%1: hidden</translation>
     </message>
 </context>
 <context>
@@ -2453,6 +2732,42 @@ for the fourth axis</translation>
     <message>
         <source>未确认刀具。</source>
         <translation>The tools are not confirmed.</translation>
+    </message>
+    <message>
+        <source>支架_铝合金_粗加工_6mm平底刀_第3次修订.nc</source>
+        <translation>Bracket_aluminium_roughing_6mm_end_mill_revision_3.nc</translation>
+    </message>
+    <message>
+        <source>支架_铝合金_精加工_2mm球头刀.nc</source>
+        <translation>bracket_aluminium_finishing_2mm-ball-nose.nc</translation>
+    </message>
+    <message>
+        <source>奖章_黄铜_精加工.nc</source>
+        <translation>Medal_brass_finish.nc</translation>
+    </message>
+    <message>
+        <source>外壳上盖_亚克力_轮廓与孔_双面装夹_待确认.nc</source>
+        <translation>cover_acrylic_contour-and-holes_two-sided_to-confirm.nc</translation>
+    </message>
+    <message>
+        <source>待加工的程序</source>
+        <translation>Waiting programs</translation>
+    </message>
+    <message>
+        <source>文件</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>大小</source>
+        <translation>Size</translation>
+    </message>
+    <message>
+        <source>程序：%1</source>
+        <translation>Program: %1</translation>
+    </message>
+    <message>
+        <source>文件名放不下时省略中间，结尾的修订号仍然可见。</source>
+        <translation>A name that has no room is cut in the middle; the revision at its end still shows.</translation>
     </message>
 </context>
 <context>

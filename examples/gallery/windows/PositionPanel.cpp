@@ -16,6 +16,7 @@ const QColor Rim(0x2b, 0x2f, 0x33);
 constexpr auto BodySheet = "#positionBody{background:#ffffff;}";
 } // namespace
 
+//! [frameless-windows]
 PositionPanel::PositionPanel()
 {
     setObjectName(QStringLiteral("positionPanel"));
@@ -60,6 +61,7 @@ PositionPanel::PositionPanel()
     connect(this, &PureQtFramelessWindow::titleDblClick, bar, &GalleryTitleBar::ToggleMaximized);
     connect(this, &PureQtFramelessWindow::windowStateChange, this, &QWidget::showNormal);
 }
+//! [frameless-windows]
 
 void PositionPanel::paintEvent(QPaintEvent*)
 {

@@ -23,6 +23,7 @@ constexpr auto SliderSheet = "QSlider::groove:horizontal{height:4px;background:#
                              "background:#ffffff;border:1px solid #188553;}";
 } // namespace
 
+//! [frameless-windows]
 SimulationWindow::SimulationWindow(QWidget* parent)
     : FramelessMainWindow(parent)
     , m_pView(new ToolpathView)
@@ -69,6 +70,7 @@ SimulationWindow::SimulationWindow(QWidget* parent)
     m_pProgress->setValue(FirstPercent);
     Retranslate();
 }
+//! [frameless-windows]
 
 void SimulationWindow::changeEvent(QEvent* event)
 {

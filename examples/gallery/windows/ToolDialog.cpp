@@ -29,6 +29,7 @@ QLabel* CreateCaption(const QString& text)
 }
 } // namespace
 
+//! [frameless-windows]
 ToolDialog::ToolDialog(QWidget* parent)
     : FramelessDialog(parent)
     , m_pName(CreateField(QStringLiteral("toolName"), tr("球头刀 R3")))
@@ -92,6 +93,7 @@ ToolDialog::ToolDialog(QWidget* parent)
     m_pName->selectAll();
     m_pName->setFocus();
 }
+//! [frameless-windows]
 
 QString ToolDialog::ToolName() const
 {

@@ -178,7 +178,7 @@ void GalleryLanguageTest::aLanguageThatIsNotKnownIsIgnored()
     for (const char* language : {"", "de", "ZH", "english"}) {
         Switch(QLatin1String(language));
         QVERIFY(GalleryLanguage::IsChinese());
-        QCOMPARE(m_pWindow->findChild<QWidget*>(QStringLiteral("page-buttons")), page);
+        QVERIFY(m_pWindow->findChild<QWidget*>(QStringLiteral("page-buttons")) == page);
     }
 }
 

@@ -1,0 +1,158 @@
+#include <examples/gallery/PageRegistry.h>
+
+#include <tests/support/TestMain.h>
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFileInfo>
+#include <QHash>
+#include <QRegularExpression>
+#include <QSet>
+
+class GalleryCompletenessTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyExportedClassIsShown_data();
+    void everyExportedClassIsShown();
+    void everyPageUsesTheClassesThatItNames_data();
+    void everyPageUsesTheClassesThatItNames();
+    void everyClassIsFoundByItsName_data();
+    void everyClassIsFoundByItsName();
+};
+
+namespace {
+const QDir Gallery(QStringLiteral(GALLERY_FOLDER));
+const QDir Library(QStringLiteral(LIBRARY_FOLDER));
+
+/** What the window itself shows, around every page. */
+const QHash<QString, QString> Frame = {
+    {QStringLiteral("CTabToolWidget"), QStringLiteral("GalleryRibbon.h")},
+    {QStringLiteral("CCustomAppStyle"), QStringLiteral("main.cpp")},
+};
+/** The class that the library is named after holds nothing that could be shown. */
+const QString Anchor = QStringLiteral("CustomControls");
+
+QString Read(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly | QIODevice::Text) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+QStringList ExportedClasses()
+{
+    const QRegularExpression declaration(QStringLiteral("\\bclass CUSTOMCONTROLS_EXPORT (\\w+)"));
+    QStringList classes;
+    for (QDirIterator headers(Library.path(), {QStringLiteral("*.h")}, QDir::Files, QDirIterator::Subdirectories);
+         headers.hasNext();) {
+        for (auto match = declaration.globalMatch(Read(headers.next())); match.hasNext();) {
+            classes.append(match.next().captured(1));
+        }
+    }
+    classes.sort();
+    return classes;
+}
+
+bool Uses(const QString& text, const QString& name)
+{
+    return QRegularExpression(QStringLiteral("\\b%1\\b").arg(name)).match(text).hasMatch();
+}
+
+/** A file of the gallery with all that it takes in from the gallery, headers and their sources. */
+QString Sources(const QString& path, QSet<QString>* seen)
+{
+    const QString file = QDir::cleanPath(path);
+    if (seen->contains(file) || !QFileInfo::exists(file)) {
+        return QString();
+    }
+    seen->insert(file);
+    QString text = Read(file);
+    const QRegularExpression include(QStringLiteral("#include \"([^\"]+)\""));
+    QString taken;
+    for (auto match = include.globalMatch(text); match.hasNext();) {
+        const QString header = QFileInfo(file).dir().filePath(match.next().captured(1));
+        taken += Sources(header, seen);
+        taken += Sources(QString(header).replace(QLatin1String(".h"), QLatin1String(".cpp")), seen);
+    }
+    return text + taken;
+}
+
+void AddClasses()
+{
+    QTest::addColumn<QString>("name");
+    const QStringList classes = ExportedClasses();
+    for (const QString& name : classes) {
+        if (name != Anchor) {
+            QTest::newRow(qPrintable(name)) << name;
+        }
+    }
+}
+} // namespace
+
+void GalleryCompletenessTest::everyExportedClassIsShown_data()
+{
+    QVERIFY(ExportedClasses().size() > 40);
+    AddClasses();
+}
+
+void GalleryCompletenessTest::everyExportedClassIsShown()
+{
+    QFETCH(QString, name);
+    if (Frame.contains(name)) {
+        QVERIFY(Uses(Read(Gallery.filePath(Frame.value(name))), name));
+        return;
+    }
+    for (const PageEntry& entry : GalleryPages()) {
+        if (entry.classes.contains(name)) {
+            return;
+        }
+    }
+    QFAIL("no page shows it");
+}
+
+void GalleryCompletenessTest::everyPageUsesTheClassesThatItNames_data()
+{
+    QTest::addColumn<QString>("source");
+    QTest::addColumn<QStringList>("classes");
+    for (const PageEntry& entry : GalleryPages()) {
+        QTest::newRow(qPrintable(entry.strName)) << entry.strSource << entry.classes;
+    }
+}
+
+void GalleryCompletenessTest::everyPageUsesTheClassesThatItNames()
+{
+    QFETCH(QString, source);
+    QFETCH(QStringList, classes);
+    // What every page takes in shows nothing of its own.
+    QSet<QString> seen;
+    for (const char* common : {"GalleryPage", "GalleryStyle", "GalleryOptions"}) {
+        for (const char* ending : {".h", ".cpp"}) {
+            seen.insert(QDir::cleanPath(Gallery.filePath(QLatin1String(common) + QLatin1String(ending))));
+        }
+    }
+    const QString header = QString(source).replace(QLatin1String(".cpp"), QLatin1String(".h"));
+    const QString text = Sources(Gallery.filePath(header), &seen) + Sources(Gallery.filePath(source), &seen);
+    QVERIFY(!classes.isEmpty());
+    for (const QString& name : classes) {
+        QVERIFY2(Uses(text, name), qPrintable(name));
+    }
+}
+
+void GalleryCompletenessTest::everyClassIsFoundByItsName_data()
+{
+    AddClasses();
+}
+
+void GalleryCompletenessTest::everyClassIsFoundByItsName()
+{
+    QFETCH(QString, name);
+    bool found = false;
+    for (const PageEntry& entry : GalleryPages()) {
+        found = found || entry.Matches(name.toLower());
+    }
+    QVERIFY(found);
+}
+
+CUSTOMCONTROLS_TEST_MAIN(GalleryCompletenessTest)
+#include "GalleryCompletenessTest.moc"

@@ -1,0 +1,203 @@
+#include <examples/gallery/GalleryLanguage.h>
+#include <examples/gallery/GalleryWindow.h>
+#include <examples/gallery/PageRegistry.h>
+
+#include <tests/support/TestMain.h>
+
+#include <QAbstractButton>
+#include <QIcon>
+#include <QImage>
+#include <QLabel>
+#include <QScrollArea>
+#include <QStyle>
+
+#include <cmath>
+#include <memory>
+
+/** Every page in both languages, at the ratio that QT_SCALE_FACTOR sets for the process. */
+class GalleryRatioTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase_data();
+    void init();
+    void cleanupTestCase();
+    void captionsHaveRoom_data();
+    void captionsHaveRoom();
+    void nothingStandsOutsideItsPlace_data();
+    void nothingStandsOutsideItsPlace();
+    void picturesAreSharp_data();
+    void picturesAreSharp();
+
+private:
+    void OpenPage();
+    QList<QWidget*> Seen() const;
+
+    std::unique_ptr<GalleryWindow> m_pWindow;
+    QString m_strLanguage;
+};
+
+namespace {
+constexpr double LargestTwin = 2.0; // the files go up to "@2x"
+
+void AddPages()
+{
+    QTest::addColumn<QString>("page");
+    for (const PageEntry& entry : GalleryPages()) {
+        QTest::newRow(qPrintable(entry.strName)) << entry.strName;
+    }
+}
+
+QString Name(const QWidget* widget)
+{
+    QString name;
+    for (; widget && !widget->isWindow(); widget = widget->parentWidget()) {
+        name = QLatin1String(widget->metaObject()->className()) + QLatin1Char('#') + widget->objectName() +
+               QLatin1String(name.isEmpty() ? "" : " < ") + name;
+        if (name.size() > 160) {
+            break;
+        }
+    }
+    return name;
+}
+} // namespace
+
+void GalleryRatioTest::initTestCase_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::newRow("zh") << QStringLiteral("zh");
+    QTest::newRow("en") << QStringLiteral("en");
+}
+
+void GalleryRatioTest::init()
+{
+    QFETCH_GLOBAL(QString, language);
+    if (!m_pWindow) {
+        m_pWindow = std::make_unique<GalleryWindow>(GalleryOptions());
+        m_pWindow->resize(1280, 900);
+        m_pWindow->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get()));
+    }
+    if (m_strLanguage != language) {
+        m_strLanguage = language;
+        m_pWindow->SetLanguage(language);
+        QCoreApplication::processEvents();
+    }
+}
+
+void GalleryRatioTest::cleanupTestCase()
+{
+    m_pWindow.reset();
+    GalleryLanguage::Use(true);
+}
+
+void GalleryRatioTest::OpenPage()
+{
+    QFETCH(QString, page);
+    QVERIFY(m_pWindow->OpenPage(page));
+    QCoreApplication::processEvents();
+    // At 1 the variable may be missing.
+    const double ratio = qEnvironmentVariable("QT_SCALE_FACTOR", QStringLiteral("1")).toDouble();
+    QCOMPARE(m_pWindow->devicePixelRatio(), ratio);
+}
+
+QList<QWidget*> GalleryRatioTest::Seen() const
+{
+    QList<QWidget*> seen;
+    const QList<QWidget*> widgets = m_pWindow->findChildren<QWidget*>();
+    for (QWidget* widget : widgets) {
+        if (widget->isVisible() && !widget->isWindow() && widget->width() > 0 && widget->height() > 0) {
+            seen.append(widget);
+        }
+    }
+    return seen;
+}
+
+void GalleryRatioTest::captionsHaveRoom_data()
+{
+    AddPages();
+}
+
+void GalleryRatioTest::captionsHaveRoom()
+{
+    OpenPage();
+    const QList<QWidget*> widgets = Seen();
+    for (QWidget* widget : widgets) {
+        // A button that wraps or elides by itself says so by a size hint of its own.
+        const auto* label = qobject_cast<QLabel*>(widget);
+        const bool plain = label && !label->text().isEmpty() && label->textFormat() != Qt::RichText;
+        if (!plain) {
+            continue;
+        }
+        const QSize room = label->contentsRect().size();
+        const QRect text = label->fontMetrics().boundingRect(QRect(QPoint(), QSize(room.width(), 10000)),
+                                                             label->wordWrap() ? Qt::TextWordWrap : 0, label->text());
+        QVERIFY2(text.width() <= room.width() + 1 && text.height() <= room.height() + 1,
+                 qPrintable(QStringLiteral("\"%1\" needs %2 by %3 and has %4 by %5 in %6")
+                                .arg(label->text())
+                                .arg(text.width())
+                                .arg(text.height())
+                                .arg(room.width())
+                                .arg(room.height())
+                                .arg(Name(label))));
+    }
+}
+
+void GalleryRatioTest::nothingStandsOutsideItsPlace_data()
+{
+    AddPages();
+}
+
+void GalleryRatioTest::nothingStandsOutsideItsPlace()
+{
+    OpenPage();
+    const QList<QWidget*> widgets = Seen();
+    for (const QWidget* widget : widgets) {
+        const QWidget* parent = widget->parentWidget();
+        // What lies in a viewport may be scrolled out of it.
+        if (parent->objectName() == QLatin1String("qt_scrollarea_viewport") ||
+            parent->objectName() == QLatin1String("qt_tabwidget_tabbar")) {
+            continue;
+        }
+        QVERIFY2(parent->rect().contains(widget->geometry()),
+                 qPrintable(QStringLiteral("%1 by %2 at %3,%4 in %5 by %6: %7")
+                                .arg(widget->width())
+                                .arg(widget->height())
+                                .arg(widget->x())
+                                .arg(widget->y())
+                                .arg(parent->width())
+                                .arg(parent->height())
+                                .arg(Name(widget))));
+    }
+}
+
+void GalleryRatioTest::picturesAreSharp_data()
+{
+    AddPages();
+}
+
+void GalleryRatioTest::picturesAreSharp()
+{
+    OpenPage();
+    const double ratio = m_pWindow->devicePixelRatio();
+    const double sharp = std::min(std::ceil(ratio), LargestTwin);
+    const QList<QWidget*> widgets = Seen();
+    for (QWidget* widget : widgets) {
+        if (const auto* label = qobject_cast<QLabel*>(widget); label && !label->pixmap(Qt::ReturnByValue).isNull()) {
+            const QPixmap pixmap = label->pixmap(Qt::ReturnByValue);
+            QVERIFY2(pixmap.devicePixelRatio() >= std::min(ratio, sharp), qPrintable(Name(label)));
+        }
+        const auto* button = qobject_cast<QAbstractButton*>(widget);
+        if (button && !button->icon().isNull()) {
+            const QPixmap pixmap = button->icon().pixmap(button->iconSize(), ratio);
+            QVERIFY2(pixmap.width() >= std::floor(pixmap.deviceIndependentSize().width() * std::min(ratio, sharp)),
+                     qPrintable(Name(button)));
+        }
+    }
+    const QImage image = m_pWindow->grab().toImage();
+    QCOMPARE(image.size(), (QSizeF(m_pWindow->size()) * ratio).toSize());
+}
+
+CUSTOMCONTROLS_TEST_MAIN(GalleryRatioTest)
+#include "GalleryRatioTest.moc"
