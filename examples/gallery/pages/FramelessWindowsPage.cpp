@@ -92,7 +92,7 @@ void FramelessWindowsPage::AddPopUps()
     for (int column = 0; column < 3; ++column) {
         grid->setColumnStretch(column, 1);
     }
-    grid->setColumnMinimumWidth(2, 200); // as wide as a tile, so that these stand below those of the card above
+    grid->addWidget(new QWidget, 0, 2); // in the place of a third tile: these stand below those of the card above
     AddCard(tr("固定大小的弹窗"), tr("拖动标题区移动；回车确认，Esc 关闭；打开时主窗口不可操作。"),
             QStringLiteral("pop-ups"))
         ->addLayout(grid);

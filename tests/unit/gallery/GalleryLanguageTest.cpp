@@ -21,8 +21,9 @@ class GalleryLanguageTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void init();
-    void cleanup();
+    void cleanupTestCase();
     void englishLeavesNoChineseOnAPage_data();
     void englishLeavesNoChineseOnAPage();
     void chineseBringsTheSameTextsBack_data();
@@ -50,7 +51,7 @@ void AddPages()
 }
 } // namespace
 
-void GalleryLanguageTest::init()
+void GalleryLanguageTest::initTestCase()
 {
     GalleryLanguage::Use(true);
     m_pWindow = std::make_unique<GalleryWindow>(GalleryOptions());
@@ -58,7 +59,12 @@ void GalleryLanguageTest::init()
     QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get()));
 }
 
-void GalleryLanguageTest::cleanup()
+void GalleryLanguageTest::init()
+{
+    Switch(QStringLiteral("zh"));
+}
+
+void GalleryLanguageTest::cleanupTestCase()
 {
     m_pWindow.reset();
     GalleryLanguage::Use(true);
@@ -174,6 +180,7 @@ void GalleryLanguageTest::theMachineStaysTold()
 
 void GalleryLanguageTest::aLanguageThatIsNotKnownIsIgnored()
 {
+    QVERIFY(m_pWindow->OpenPage(QStringLiteral("buttons")));
     const QWidget* page = m_pWindow->findChild<QWidget*>(QStringLiteral("page-buttons"));
     for (const char* language : {"", "de", "ZH", "english"}) {
         Switch(QLatin1String(language));
