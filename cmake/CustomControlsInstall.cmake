@@ -43,9 +43,10 @@ if(CORVANE_BASE STREQUAL "bundled")
 endif()
 
 customcontrols_install_package(CustomControls CustomControls)
-# Public headers are those of exported classes; platform/ is the library's own business.
+# Public headers are those of exported classes; platform/ and accessibility/ are the library's own business.
 get_target_property(customcontrols_internal_headers CustomControlsInternal CUSTOMCONTROLS_INTERNAL_HEADERS)
-set(customcontrols_excluded PATTERN "platform" EXCLUDE PATTERN "resources" EXCLUDE PATTERN "*_p.h" EXCLUDE)
+set(customcontrols_excluded PATTERN "platform" EXCLUDE PATTERN "accessibility" EXCLUDE PATTERN "resources" EXCLUDE
+    PATTERN "*_p.h" EXCLUDE)
 foreach(header IN LISTS customcontrols_internal_headers)
     list(APPEND customcontrols_excluded PATTERN "${header}" EXCLUDE)
 endforeach()

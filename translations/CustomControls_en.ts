@@ -23,6 +23,14 @@
 <context>
     <name>CProgressWidget</name>
     <message>
+        <source>进度</source>
+        <translation>Progress</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
         <source>提示</source>
         <translation>Notice</translation>
     </message>
@@ -230,6 +238,10 @@ Line: %3</translation>
 <context>
     <name>CVelmarMessageBox</name>
     <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
         <source>Form</source>
         <translation>Form</translation>
     </message>
@@ -327,6 +339,10 @@ Line: %3</translation>
 </context>
 <context>
     <name>CVelmarSelectBox</name>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
     <message>
         <source>添加毛坯</source>
         <translation>Add stock</translation>
@@ -458,6 +474,13 @@ Line: %3</translation>
     <message>
         <source>选取的圆柱面不支持加工</source>
         <translation>The selected cylindrical face cannot be machined</translation>
+    </message>
+</context>
+<context>
+    <name>CToolBarItem</name>
+    <message>
+        <source>更多工具</source>
+        <translation>More tools</translation>
     </message>
 </context>
 </TS>

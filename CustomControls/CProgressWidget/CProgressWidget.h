@@ -24,6 +24,9 @@ class CProgressWidget;
  * one of the two factories and holds it by the guarded pointer that it gets, since a dialog may be deleted while its
  * job still runs. GUI thread only.
  *
+ * Keyboard and accessibility: Tab reaches the close button while it is shown, Space presses it. A screen reader meets a
+ * dialog named by its title, with a progress bar whose value it can follow.
+ *
  * @code
  * QPointer<CProgressWidget> progress = CProgressWidget::CreateAutoWidget(tr("Rebuilding"), tr("Please wait"));
  * connect(job, &Job::finished, this, [progress] { CProgressWidget::FreeAutoWidget(progress, true); });

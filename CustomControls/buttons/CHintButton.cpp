@@ -1,15 +1,22 @@
 #include <CustomControls/buttons/CHintButton.h>
 
+#include <CustomControls/accessibility/AccessibleFactory.h>
+#include <CustomControls/accessibility/KeyboardFocus.h>
+#include <CustomControls/buttons/CHintButtonAccessible.h>
 #include <CustomControls/buttons/CHintTextToolTip.h>
 
 #include <QCursor>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QScreen>
 #include <QStyle>
 #include <QStyleOptionButton>
 #include <QTimer>
+
+#include <utility>
 
 namespace {
 
@@ -18,6 +25,16 @@ const QString kDefaultIconHover = QStringLiteral(":/icon/ico_warning_line_gre_ho
 
 // Where a style gives no room for the contents: the button's width without this.
 constexpr int kContentsMargins = 12;
+
+// Between the button and a note that a key has opened.
+constexpr int kNoteGap = 4;
+
+const AccessibleFactory::Registration<CHintButton, CHintButtonAccessible> kAccessible;
+
+bool IsClickKey(const QKeyEvent* event)
+{
+    return event->key() == Qt::Key_Space || event->key() == Qt::Key_Select;
+}
 
 } // namespace
 
@@ -32,6 +49,7 @@ CHintButton::CHintButton(QWidget* parent)
     connect(m_pHoverTimer, &QTimer::timeout, this, &CHintButton::onHoverTimeout);
     // No system tip beside the note.
     setToolTip(QString());
+    KeyboardFocus::ShowOn(this);
 }
 
 CHintButton::~CHintButton()
@@ -189,6 +207,35 @@ void CHintButton::resizeEvent(QResizeEvent* event)
     UpdateDisplayText();
 }
 
+void CHintButton::keyPressEvent(QKeyEvent* event)
+{
+    const QPointer<CHintButton> alive(this);
+    if (IsClickKey(event) && !event->isAutoRepeat() && m_pToolTip) {
+        stopHoverTimer();
+        if (IsToolTipVisible()) {
+            HideToolTip();
+        } else {
+            ShowToolTipBeside();
+        }
+    } else if (event->key() == Qt::Key_Escape && IsToolTipVisible()) {
+        HideToolTip();
+        return;
+    }
+    if (alive) {
+        QPushButton::keyPressEvent(event);
+    }
+}
+
+void CHintButton::focusOutEvent(QFocusEvent* event)
+{
+    // Not when another window comes to the front, which the note itself may be.
+    const bool leaves = event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason;
+    if (leaves && std::exchange(m_bShownByKey, false)) {
+        HideToolTip();
+    }
+    QPushButton::focusOutEvent(event);
+}
+
 QString CHintButton::BuildDisplayText() const
 {
     if (!m_bAutoWrap || m_strRawText.isEmpty()) {
@@ -265,6 +312,25 @@ QPoint CHintButton::computeToolTipPosition() const
         position.setY(button.y() - m_ptOffset.y() - size.height());
     }
     return position;
+}
+
+// Where the pointer is means nothing to somebody who uses the keys.
+void CHintButton::ShowToolTipBeside()
+{
+    const QPointer<CHintButton> alive(this);
+    ShowToolTip(true);
+    if (!alive || !IsToolTipVisible()) {
+        return;
+    }
+    m_bShownByKey = hasFocus();
+    const QRect room = screen()->availableGeometry();
+    const QSize size = m_pToolTip->sizeHint();
+    QPoint place = mapToGlobal(QPoint(0, height() + kNoteGap));
+    if (place.y() + size.height() > room.bottom()) {
+        place.setY(mapToGlobal(QPoint(0, 0)).y() - kNoteGap - size.height());
+    }
+    place.setX(qMax(room.left(), qMin(place.x(), room.right() - size.width())));
+    m_pToolTip->move(place);
 }
 
 void CHintButton::startHoverTimer()

@@ -13,6 +13,10 @@ class QTimer;
  * click pins it until the next press elsewhere. It can also wrap its own caption by width, character by character, as
  * Chinese captions need it. It paints nothing of its own: style it as any QPushButton. Owned by its parent.
  *
+ * Keyboard and accessibility: Space shows the note below the button, and Space, Escape or leaving the button hides it
+ * again; a ring shows that Tab has led here. The note is what a screen reader tells of the button, and its name where
+ * the button bears no words.
+ *
  * @code
  * auto* button = new CHintButton(this);
  * button->SetToolTipText(tr("主轴转速过高"));
@@ -96,13 +100,18 @@ protected:
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    friend class CHintButtonAccessible;
+
     QString HintText() const;
     void SetHintText(const QString& text);
     QString BuildDisplayText() const;
     void UpdateDisplayText();
     QPoint computeToolTipPosition() const;
+    void ShowToolTipBeside();
     void startHoverTimer();
     void stopHoverTimer();
     void onHoverTimeout();
@@ -120,4 +129,6 @@ private:
     QString m_strRawText;
     bool m_bFilterInstalled = false;
     bool m_bAutoWrap = false;
+
+    bool m_bShownByKey = false;
 };

@@ -1,5 +1,7 @@
 #include <CustomControls/buttons/CHintToolTip.h>
 
+#include <CustomControls/accessibility/AccessibleFactory.h>
+#include <CustomControls/buttons/CHintToolTipAccessible.h>
 #include <CustomControls/platform/ClickThrough.h>
 
 #include <QCoreApplication>
@@ -11,6 +13,8 @@ bool IsOn(const QWidget* widget, const QPoint& global)
 {
     return widget->rect().contains(widget->mapFromGlobal(global));
 }
+
+const AccessibleFactory::Registration<CHintToolTip, CHintToolTipAccessible> kAccessible;
 
 } // namespace
 

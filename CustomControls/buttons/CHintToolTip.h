@@ -13,6 +13,8 @@
  * its owner button; without an owner button it hides at every press. The press goes on to where it was meant for. Owned
  * by its parent, or by whoever made it.
  *
+ * Accessibility: a tool tip named by the words in it.
+ *
  * @code
  * auto* note = new PictureNote(button, window); // derived from CHintToolTip
  * button->SetToolTip(note);

@@ -1,5 +1,9 @@
 #include <CustomControls/buttons/CIconButton.h>
 
+#include <CustomControls/accessibility/AccessibleFactory.h>
+#include <CustomControls/accessibility/KeyboardFocus.h>
+#include <CustomControls/buttons/CIconButtonAccessible.h>
+
 #include <QPainter>
 #include <QTextOption>
 
@@ -10,11 +14,15 @@ constexpr int kTextStart = 30; // the icon and six pixels
 // A little left of centre on purpose: the icon weighs less than the words, so half would look too far right.
 constexpr double kLeftShare = 0.42;
 
+const AccessibleFactory::Registration<CIconButton, CIconButtonAccessible> kAccessible;
+
 } // namespace
 
 CIconButton::CIconButton(QWidget* parent)
     : QPushButton(parent)
-{}
+{
+    KeyboardFocus::ShowOn(this);
+}
 
 void CIconButton::SetIcon(const QString& icon)
 {
@@ -25,6 +33,7 @@ void CIconButton::SetIcon(const QString& icon)
 void CIconButton::SetText(const QString& text)
 {
     m_strText = text;
+    TellNameChanged(this);
 }
 
 void CIconButton::paintEvent(QPaintEvent* event)

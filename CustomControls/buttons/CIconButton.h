@@ -13,6 +13,8 @@
  * Set icon and caption before the button shows: neither setter repaints. The text and the icon of QPushButton stay
  * empty.
  *
+ * Keyboard and accessibility: a push button named by its text; Space clicks it, and a ring shows that Tab has led here.
+ *
  * @code
  * auto* button = new CIconButton(panel);
  * button->SetIcon(QStringLiteral(":/icon/start.png"));
@@ -45,6 +47,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    friend class CIconButtonAccessible;
+
     QString m_strIcon;
     QString m_strText;
     QPixmap m_pixIcon; // what m_strIcon names, read once

@@ -1,6 +1,9 @@
 #include <CustomControls/buttons/CSelectButton.h>
 
 #include <CorvaneBase/CorvaneFonts.h>
+#include <CustomControls/accessibility/AccessibleFactory.h>
+#include <CustomControls/accessibility/KeyboardFocus.h>
+#include <CustomControls/buttons/CSelectButtonAccessible.h>
 
 #include <QCursor>
 #include <QPainter>
@@ -27,6 +30,8 @@ QSize SizeOfPicture(const QString& path)
     return QPixmap(path).deviceIndependentSize().toSize();
 }
 
+const AccessibleFactory::Registration<CSelectButton, CSelectButtonAccessible> kAccessible;
+
 } // namespace
 
 CSelectButton::CSelectButton(QWidget* parent)
@@ -36,6 +41,7 @@ CSelectButton::CSelectButton(QWidget* parent)
     setFont(FontCnMedium_14);
     setCheckable(true);
     setChecked(false);
+    KeyboardFocus::ShowOn(this);
 }
 
 void CSelectButton::setIcon(const QString& path)
@@ -48,6 +54,7 @@ void CSelectButton::setIcon(const QString& path)
 void CSelectButton::setText(const QString& text)
 {
     m_strText = text;
+    TellNameChanged(this);
 }
 
 void CSelectButton::paintEvent(QPaintEvent*)

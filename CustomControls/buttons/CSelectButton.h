@@ -15,6 +15,9 @@
  * The button has no size of its own: give it one that holds the picture and 18 pixels below it. It paints everything
  * itself, so a style sheet doesn't reach it. The text and the icon of QPushButton stay empty.
  *
+ * Keyboard and accessibility: a check box named by its caption, or a radio button in a group that is exclusive; Space
+ * toggles it, and a ring shows that Tab has led here.
+ *
  * @code
  * auto* tile = new CSelectButton(panel);
  * tile->setIcon(QStringLiteral(":/icon/selectbox/material/img_material_jade.png"));
@@ -50,6 +53,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    friend class CSelectButtonAccessible;
+
     QIcon m_icon;
     QSize m_sizeIcon;
     QString m_strText;

@@ -1,6 +1,9 @@
 #include <CustomControls/buttons/CUnitButton.h>
 
 #include <CorvaneBase/CorvaneFonts.h>
+#include <CustomControls/accessibility/AccessibleFactory.h>
+#include <CustomControls/accessibility/KeyboardFocus.h>
+#include <CustomControls/buttons/CUnitButtonAccessible.h>
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -31,12 +34,15 @@ constexpr Look kDown{kGreen, kGreen, kWhite, kWhite};
 constexpr Look kHover{kGreen, kGround, kInk, kUnit};
 constexpr Look kNormal{kGrey, kGround, kInk, kUnit};
 
+const AccessibleFactory::Registration<CUnitButton, CUnitButtonAccessible> kAccessible;
+
 } // namespace
 
 CUnitButton::CUnitButton(QWidget* parent)
     : QPushButton(parent)
 {
     setFixedSize(kSize);
+    KeyboardFocus::ShowOn(this);
 }
 
 CUnitButton::CUnitButton(const QString& text, const QString& unit, QWidget*)
@@ -44,6 +50,7 @@ CUnitButton::CUnitButton(const QString& text, const QString& unit, QWidget*)
     setFixedSize(kSize);
     setText(text);
     setUnit(unit);
+    KeyboardFocus::ShowOn(this);
 }
 
 void CUnitButton::setText(const QString& text)
@@ -51,6 +58,7 @@ void CUnitButton::setText(const QString& text)
     m_strText = text;
     m_iTextWidth = QFontMetrics(FontCnMedium_14).horizontalAdvance(text);
     update();
+    TellNameChanged(this);
 }
 
 void CUnitButton::setUnit(const QString& unit)
@@ -58,6 +66,7 @@ void CUnitButton::setUnit(const QString& unit)
     m_strUnit = unit;
     m_iUnitWidth = QFontMetrics(FontCnMedium_10).horizontalAdvance(unit);
     update();
+    TellNameChanged(this);
 }
 
 void CUnitButton::paintEvent(QPaintEvent*)

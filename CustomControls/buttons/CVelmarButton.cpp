@@ -1,7 +1,10 @@
 #include <CustomControls/buttons/CVelmarButton.h>
 
 #include <CorvaneBase/CorvaneFonts.h>
+#include <CustomControls/accessibility/AccessibleFactory.h>
+#include <CustomControls/accessibility/KeyboardFocus.h>
 #include <CustomControls/buttons/CMultiLineLabel.h>
+#include <CustomControls/buttons/CVelmarButtonAccessible.h>
 
 #include <QApplication>
 #include <QBoxLayout>
@@ -40,6 +43,8 @@ constexpr QSize kVerticalSize(60, 40);
 constexpr QSize kVerticalTextSize(60, 20);
 constexpr QSize kHorizontalSize(80, 40);
 constexpr QSize kHorizontalTextSize(40, 40);
+
+const QString kUnsetText = QStringLiteral("ZVButton");
 
 constexpr int kBoldWeight = 600;
 constexpr int kRegularWeight = 400;
@@ -184,6 +189,8 @@ bool BearsTextImage(EnumButtonType type)
     return type == ButtonTypeIconImage || type == ButtonTypeIconImageChoose;
 }
 
+const AccessibleFactory::Registration<CVelmarButton, CVelmarButtonAccessible> kAccessible;
+
 } // namespace
 
 CVelmarButton::CVelmarButton(QWidget* parent)
@@ -221,11 +228,20 @@ CVelmarButton::CVelmarButton(EnumButtonType type, bool vertical, bool iconFirst,
     }
     m_pTextLabel->setFont(FontCn_14);
     InitButtonUI();
+
+    // The keyboard's click is the toolkit's. A dialog that clicks its default button while another has the focus is not
+    // meant.
+    connect(this, &QAbstractButton::clicked, this, [this] {
+        if (hasFocus()) {
+            Q_EMIT SignalClicked();
+        }
+    });
+    KeyboardFocus::ShowOn(this);
 }
 
 void CVelmarButton::InitButtonUI()
 {
-    m_strText = QStringLiteral("ZVButton");
+    m_strText = kUnsetText;
     SetLooks<QString>(m_strTextColor, QStringLiteral("rgb(102,102,102)"), QStringLiteral("rgb(255,255,255)"),
                       QStringLiteral("rgb(50,50,50)"), QStringLiteral("rgb(255,255,255)"));
     SetLooks(m_colorSolid, QColor(230, 230, 230), QColor(38, 120, 218), QColor(194, 211, 231), QColor(38, 120, 218));
@@ -305,6 +321,7 @@ void CVelmarButton::SetButtonText(const QString& text, bool bold)
         font = GetFontWidthPxSizeAndWeight(PixelSize(font), weight);
     }
     m_pTextLabel->setFont(font);
+    TellNameChanged(this);
 }
 
 void CVelmarButton::SetCaption(const QString& text)
@@ -443,6 +460,7 @@ void CVelmarButton::SetBtnRadius(int radius)
 
 void CVelmarButton::SetChooseFocus(bool chosen)
 {
+    const bool changed = m_bChooseFocus != chosen;
     m_bChooseFocus = chosen;
     if (m_bHasBubble) {
         if (m_bClearBubbleOnChoose) {
@@ -458,6 +476,9 @@ void CVelmarButton::SetChooseFocus(bool chosen)
     }
     SetButtonStyle();
     update();
+    if (changed && CanBeChosen()) {
+        TellCheckedChanged(this);
+    }
 }
 
 void CVelmarButton::SetIconBorder(const QString& border, bool enable)
@@ -578,6 +599,17 @@ bool CVelmarButton::HasLooksOfOneSize() const
     }
     const auto all = [](const QString(&looks)[4]) { return std::all_of(looks, looks + 4, HoldsOneValue); };
     return all(m_strTextColor) && all(m_strIcon) && all(m_strTextIcon);
+}
+
+bool CVelmarButton::HasOwnText() const
+{
+    const bool showsWords = m_eType != ButtonTypeIcon && m_eType != ButtonTypeIconChoose && !BearsTextImage(m_eType);
+    return showsWords || m_pTextLabel->text() != kUnsetText;
+}
+
+bool CVelmarButton::CanBeChosen() const
+{
+    return FillCanBeChosen(m_eType);
 }
 
 int CVelmarButton::StateIndex() const

@@ -46,6 +46,11 @@ struct StructGradientColor
  * The parent widget owns the button, the button owns its labels. The button bears no style sheet; a host that gives it
  * one has to leave the labels transparent.
  *
+ * Keyboard and accessibility: Space on the focused button is SignalClicked() as well, and so is Return where a dialog
+ * gives it to the button; a ring shows that Tab has led here. A screen reader meets a button, named by its text and,
+ * where it can be chosen, checked while it is. A button of icons alone needs a tool tip or an accessibleName from the
+ * host.
+ *
  * @code
  * auto* button = new CVelmarButton(ButtonTypeIconTextChoose, false, true, 0, parent);
  * button->SetButtonText(tr("..."), false);
@@ -188,6 +193,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    friend class CVelmarButtonAccessible;
+
     void SetCaption(const QString& text);
     void InitButtonUI();
     void SetButtonStyle();
@@ -197,6 +204,8 @@ private:
     /** Whether the mouse will change colours and images of the labels only, so that no size can change with them. */
     bool HasLooksOfOneSize() const;
     /** m_iState as an index of the arrays of looks. */
+    bool HasOwnText() const;
+    bool CanBeChosen() const;
     int StateIndex() const;
     QString IconSheet(int look) const;
     QString TextSheet(int look) const;

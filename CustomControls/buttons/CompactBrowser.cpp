@@ -19,6 +19,7 @@ QTextBrowser* CreateCompactBrowser(int width, const QString& text)
     const int textWidth = qMax(0, width);
     auto* browser = new QTextBrowser;
     browser->setFixedWidth(textWidth);
+    browser->setAccessibleName(text);
     browser->setStyleSheet(kBrowserSheet);
     browser->setFont(FontCnMedium_14);
 

@@ -1,8 +1,9 @@
 #include <CustomControls/feedback/CFrostedToolTip.h>
 
-#include <CustomControls/platform/Glass.h>
-
 #include <CorvaneBase/CorvaneFonts.h>
+#include <CustomControls/accessibility/AccessibleFactory.h>
+#include <CustomControls/feedback/CFrostedToolTipAccessible.h>
+#include <CustomControls/platform/Glass.h>
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -50,6 +51,8 @@ QPropertyAnimation* Fade(QWidget* window, double from, double to)
     animation->start(QAbstractAnimation::DeleteWhenStopped);
     return animation;
 }
+
+const AccessibleFactory::Registration<CFrostedToolTip, CFrostedToolTipAccessible> kAccessible;
 
 } // namespace
 

@@ -10,6 +10,8 @@
  * has one. It fades in when it is shown. Hide() fades it out and deletes it; a tip without a parent belongs to nobody
  * else. ToolTipEventFilter makes these in place of the ordinary tool tips.
  *
+ * Accessibility: a tool tip named by its words.
+ *
  * @code
  * auto* tip = new CFrostedToolTip(tr("生成G代码"), nullptr);
  * tip->move(QCursor::pos() + QPoint(8, 18));

@@ -1,9 +1,10 @@
 #include "ui_ToastWidget.h"
 #include <CustomControls/feedback/ToastWidget.h>
 
-#include <CustomControls/platform/ClickThrough.h>
-
 #include <CorvaneBase/CorvaneFonts.h>
+#include <CustomControls/accessibility/AccessibleFactory.h>
+#include <CustomControls/feedback/ToastWidgetAccessible.h>
+#include <CustomControls/platform/ClickThrough.h>
 
 #include <QFontMetrics>
 
@@ -31,6 +32,8 @@ bool IsCompact(ToastWidget::ToastType type)
     return type == ToastWidget::ToastModelOutsideStock || type == ToastWidget::ToastFaceNotMachinable ||
            type == ToastWidget::ToastCylinderNotMachinable;
 }
+
+const AccessibleFactory::Registration<ToastWidget, ToastWidgetAccessible> kAccessible;
 
 } // namespace
 
@@ -65,6 +68,14 @@ ToastWidget::ToastWidget(ToastType type, QWidget* parent, QString text)
 ToastWidget::~ToastWidget()
 {
     delete ui;
+}
+
+bool ToastWidget::event(QEvent* event)
+{
+    if (event->type() == QEvent::Show) {
+        TellEvent(this, QAccessible::Alert);
+    }
+    return QWidget::event(event);
 }
 
 QString ToastWidget::Message(ToastType type)

@@ -16,6 +16,8 @@ class ToastWidget;
  * ":/icon/icon_scanning_system_prompt.png" and ":/icon/icon_scanning_system_warn.png" come from the host's resources;
  * without them the strip shows its message alone.
  *
+ * Accessibility: an alert named by its words. A screen reader is told of it as it shows.
+ *
  * @code
  * auto* toast = new ToastWidget(ToastWidget::ToastModelEdit, view, QString());
  * toast->move(view->mapToGlobal(QPoint((view->width() - toast->width()) / 2, 40)));
@@ -59,7 +61,12 @@ public:
     ToastWidget(ToastType type, QWidget* parent, QString text);
     ~ToastWidget() override;
 
+protected:
+    bool event(QEvent* event) override;
+
 private:
+    friend class ToastWidgetAccessible;
+
     static QString Message(ToastType type);
     void SetIcon(const QString& path);
     void MakeCompact();

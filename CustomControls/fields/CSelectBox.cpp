@@ -3,6 +3,7 @@
 #include "ui_CSelectBox.h"
 
 #include <CorvaneBase/CorvaneFonts.h>
+#include <CustomControls/accessibility/KeyboardFocus.h>
 
 namespace {
 
@@ -28,10 +29,11 @@ CSelectBox::CSelectBox(QString text, bool checked, QString hintText, QWidget* pa
     setStyleSheet(kBoxSheet);
     ui->labelBox->setFont(FontCnMedium_14);
     ui->hintButton->setFont(FontCn_12);
-    ui->labelBox->setText(text);
+    SetText(text);
     SetHintText(hintText);
     ui->labelBox->setStyleSheet(kCaptionSheet);
     ui->btnBox->setChecked(checked);
+    KeyboardFocus::ShowOn(ui->btnBox);
     connect(ui->btnBox, &QPushButton::toggled, this, &CSelectBox::signalSelectBoxToggled);
 }
 
@@ -58,6 +60,7 @@ void CSelectBox::SetCheckable(bool checkable)
 void CSelectBox::SetText(const QString& text)
 {
     ui->labelBox->setText(text);
+    ui->btnBox->setAccessibleName(text);
 }
 
 QString CSelectBox::Text() const

@@ -17,6 +17,9 @@ class CSelectBox;
  * ":/icon/gcode/ico_gcode_pop_details_hvoer.png" for the mark, ":/icon/gcode/img_check_on.png" and
  * ":/icon/gcode/img_check_off.png" for the switch. Without them both stay invisible, but work.
  *
+ * Keyboard and accessibility: Tab reaches the help mark and the switch, Space shows the help and throws the switch, and
+ * a ring shows that Tab has led here. A screen reader meets a check box named by the caption.
+ *
  * @code
  * auto* box = new CSelectBox(tr("真空吸附"), true, tr("加工前检查台面是否平整。"), panel);
  * connect(box, &CSelectBox::signalSelectBoxToggled, this, &Panel::SetVacuum);

@@ -5,6 +5,7 @@
 #include <CorvaneBase/CorvaneFonts.h>
 
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QTimer>
 
 #include <cmath>
@@ -40,6 +41,7 @@ CTextEdit::CTextEdit(QWidget* parent, QString name, QString defaultValue, QStrin
         ui->main->setFixedWidth(static_cast<int>(qMin(mainWidth, static_cast<double>(QWIDGETSIZE_MAX))));
     }
 
+    NameNumber();
     ui->lineEdit->setContextMenuPolicy(Qt::NoContextMenu);
     connect(ui->lineEdit, &QDoubleSpinBox::editingFinished, this, &CTextEdit::SignalEditDataChanged,
             Qt::UniqueConnection);
@@ -66,6 +68,9 @@ bool CTextEdit::eventFilter(QObject* watched, QEvent* event)
             // Later, when the number has taken its step.
             QTimer::singleShot(0, this, &CTextEdit::SignalEditDataChanged);
         }
+    }
+    if (watched == ui->lineEdit && event->type() == QEvent::FocusIn) {
+        NameNumber();
     }
     return QWidget::eventFilter(watched, event);
 }
@@ -161,6 +166,7 @@ QString CTextEdit::Name() const
 void CTextEdit::SetName(const QString& name)
 {
     ui->m_labelName->setText(name);
+    NameNumber();
 }
 
 QString CTextEdit::Unit() const
@@ -171,6 +177,7 @@ QString CTextEdit::Unit() const
 void CTextEdit::SetUnit(const QString& unit)
 {
     ui->m_labelUnit->setText(unit);
+    NameNumber();
 }
 
 int CTextEdit::MainWidth() const
@@ -201,6 +208,21 @@ double CTextEdit::Maximum() const
 void CTextEdit::SetMaximum(double maximum)
 {
     SetRange(Minimum(), maximum);
+}
+
+// A host may change the name's label at any time, so the number is named again whenever it is gone to. No buddy: that
+// would make an ampersand in a name the mark of a key.
+void CTextEdit::NameNumber()
+{
+    QString name = ui->m_labelName->text().simplified();
+    while (name.endsWith(QChar(0xff1a)) || name.endsWith(QLatin1Char(':'))) {
+        name.chop(1);
+    }
+    ui->lineEdit->setAccessibleName(name);
+    ui->lineEdit->setAccessibleDescription(ui->m_labelUnit->text());
+    if (auto* edit = ui->lineEdit->findChild<QLineEdit*>()) {
+        edit->setAccessibleName(name);
+    }
 }
 
 bool CTextEdit::IsInRange(double value) const

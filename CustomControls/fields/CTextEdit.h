@@ -18,6 +18,9 @@ class CTextEdit;
  *
  * The range is 0 to 999999 with two decimals until SetRange() and SetDecimals().
  *
+ * Keyboard and accessibility: Tab reaches the number, Up and Down step it. A screen reader meets a spin box named by
+ * the field's name, with the unit as its description.
+ *
  * @code
  * auto* angle = new CTextEdit(panel, tr("旋转角度："), QStringLiteral("0"), QStringLiteral("°"), 110);
  * angle->SetRange(0.0, 360.0);
@@ -129,6 +132,8 @@ private:
     void SetMinimum(double minimum);
     double Maximum() const;
     void SetMaximum(double maximum);
+    void NameNumber();
+
     bool IsInRange(double value) const;
 
     Ui::CTextEdit* ui;

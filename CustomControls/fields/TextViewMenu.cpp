@@ -1,9 +1,12 @@
 #include <CustomControls/fields/TextViewMenu_p.h>
 
+#include <CustomControls/menus/MenuKeyboard.h>
+
 #include <QAbstractScrollArea>
 #include <QClipboard>
 #include <QCursor>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QTextCursor>
 
@@ -69,6 +72,17 @@ bool TextViewMenu::Filter(CCustomMenu* menu, const QAbstractScrollArea* view, co
             return true; // a click on a row is under way, and the menu has to live until the row sees it
         }
         menu->hide();
+    } else if (event->type() == QEvent::KeyPress && obj == view) {
+        // The view keeps the focus while its menu is open, and hands the keys on.
+        switch (MenuKeyboard::Press(menu, static_cast<const QKeyEvent*>(event))) {
+        case MenuKeyboard::Leaves:
+            menu->hide();
+            return true;
+        case MenuKeyboard::Taken:
+            return true;
+        case MenuKeyboard::Ignored:
+            break;
+        }
     }
     return false;
 }

@@ -1,8 +1,17 @@
 #include <CustomControls/machine/CFixedSizePopWidget.h>
 
+#include <CustomControls/accessibility/AccessibleFactory.h>
+#include <CustomControls/machine/CFixedSizePopWidgetAccessible.h>
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointer>
+
+namespace {
+
+const AccessibleFactory::Registration<CFixedSizePopWidget, CFixedSizePopWidgetAccessible> kAccessible;
+
+} // namespace
 
 CFixedSizePopWidget::CFixedSizePopWidget(QWidget* parent)
     : QWidget(parent)

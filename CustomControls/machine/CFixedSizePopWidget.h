@@ -12,6 +12,8 @@
  * The creator shows it; who deletes it is the subclass's decision (CVelmarSelectBox deletes itself when it closes). GUI
  * thread only.
  *
+ * Accessibility: a dialog named by its window title.
+ *
  * @code
  * class CRenameBox : public CFixedSizePopWidget {
  *     QSize GetTitleSize() override { return {width(), 32}; }

@@ -2,11 +2,6 @@
 
 #include "ui_CSelectMachineBox.h"
 
-#include <CustomControls/CProgressWidget/CProgressWidget.h>
-#include <CustomControls/machine/CSelectMachineIPLineEdit.h>
-#include <CustomControls/messagebox/CVelmarMessageBox.h>
-#include <CustomControls/tables/CFileNameDelegate.h>
-
 #include <CorvaneBase/CDebugLog.h>
 #include <CorvaneBase/CorvaneConstants.h>
 #include <CorvaneBase/CorvaneFonts.h>
@@ -15,6 +10,11 @@
 #include <CorvaneBase/CorvaneTextHelper.h>
 #include <CorvaneBase/FtpConnection.h>
 #include <CorvaneBase/NetworkConfigurator.h>
+#include <CustomControls/CProgressWidget/CProgressWidget.h>
+#include <CustomControls/accessibility/KeyboardFocus.h>
+#include <CustomControls/machine/CSelectMachineIPLineEdit.h>
+#include <CustomControls/messagebox/CVelmarMessageBox.h>
+#include <CustomControls/tables/CFileNameDelegate.h>
 
 #include <QColor>
 #include <QDebug>
@@ -22,8 +22,10 @@
 #include <QEventLoop>
 #include <QFutureWatcher>
 #include <QIcon>
+#include <QItemSelectionModel>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QKeyEvent>
 #include <QNetworkProxy>
 #include <QPointer>
 #include <QStandardItemModel>
@@ -158,6 +160,16 @@ void CSelectMachineBox::InitWindow()
 
     // The strip's height is fixed: where a font is tall, the address line gives way and the buttons below stay whole.
     ui->ipWidget->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
+
+    ui->tableView->setAccessibleName(tr("设备列表"));
+    ui->tableView->installEventFilter(this);
+    // Rows are chosen whole, and Tab has to lead on to the buttons.
+    ui->tableView->setTabKeyNavigation(false);
+    ui->pushButton_2->setAccessibleName(ui->pushButton->text());
+    for (QPushButton* button : {ui->ipButton, ui->m_btnConnect, ui->m_btnRefresh, ui->btnConfig, ui->btnCancel,
+                                ui->btnSwitchConnect, ui->pushButton, ui->pushButton_2}) {
+        KeyboardFocus::ShowOn(button);
+    }
 
     ui->topWidget->hide();
     ui->ipDetail->hide();
@@ -370,6 +382,22 @@ void CSelectMachineBox::RowClicked(const QModelIndex& index)
              << interfaceName;
     CDebugLog::AddLog(QStringLiteral("当前点击IP:%1,interface:%2,SN(right3):%3")
                           .arg(m_strMachineIP, interfaceName, LastThree(m_strMachineNum)));
+}
+
+bool CSelectMachineBox::eventFilter(QObject* watched, QEvent* event)
+{
+    // The arrow keys only mark a row, as they always have; the space bar is the keyboard's click.
+    if (watched == ui->tableView && event->type() == QEvent::KeyPress) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        const QModelIndex index = ui->tableView->currentIndex();
+        if (key->key() == Qt::Key_Space && !key->isAutoRepeat() && index.isValid()) {
+            ui->tableView->selectionModel()->select(index,
+                                                    QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+            RowClicked(index);
+            return true;
+        }
+    }
+    return CVelmarSelectBox::eventFilter(watched, event);
 }
 
 void CSelectMachineBox::on_m_btnConnect_clicked()

@@ -30,6 +30,9 @@ class CSelectMachineBox;
  * The panel deletes itself when it closes, and Escape closes it at any time: keep a QPointer to it. It may be deleted
  * in any slot, also while it waits for a machine. GUI thread only.
  *
+ * Keyboard and accessibility: Tab goes through list and buttons. In the list the arrow keys mark a machine and Space
+ * picks it as a click does; the address pop-up takes what is typed while it is open, Return closes it.
+ *
  * @code
  * auto* panel = new CSelectMachineBox(mainWindow);
  * // Connects by the host's own means, then calls panel->OnConnectResult(ok):
@@ -110,6 +113,9 @@ Q_SIGNALS:
      * @param error the reason in words for the user, or empty
      */
     void SignalGetMachineSNFinished(bool ret, QString sn, QString error);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private Q_SLOTS:
     void on_m_btnConnect_clicked();

@@ -3,10 +3,14 @@
 #include "ui_CSelectMachineIPLineEdit.h"
 
 #include <CorvaneBase/CorvaneFonts.h>
+#include <CustomControls/accessibility/AccessibleFactory.h>
+#include <CustomControls/machine/CSelectMachineIPLineEditAccessible.h>
 
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QCursor>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QRegularExpression>
 #include <QRegularExpressionValidator>
 #include <QSignalBlocker>
@@ -28,6 +32,8 @@ const QString HighlightSheet = QStringLiteral(
 const QString IpPattern =
     QStringLiteral("^((25[0-5]|2[0-4][0-9]|[01]?[0-9][0-9]?)\\.){3}(25[0-5]|2[0-4][0-9]|[01]?[0-9][0-9]?)$");
 
+const AccessibleFactory::Registration<CSelectMachineIPLineEdit, CSelectMachineIPLineEditAccessible> kAccessible;
+
 } // namespace
 
 CSelectMachineIPLineEdit::CSelectMachineIPLineEdit(QWidget* parent)
@@ -40,6 +46,7 @@ CSelectMachineIPLineEdit::CSelectMachineIPLineEdit(QWidget* parent)
     ui->titleLabel->setFont(FontCnMedium_14);
     ui->lineEdit->setFont(FontCn_14);
     ui->titleLabel->adjustSize();
+    ui->lineEdit->setAccessibleName(ui->titleLabel->text());
     ui->lineEdit->setMaxLength(MaxAddressLength);
     ui->lineEdit->installEventFilter(this);
     ui->lineEdit->setValidator(new QRegularExpressionValidator(QRegularExpression(IpPattern), this));
@@ -103,6 +110,22 @@ void CSelectMachineIPLineEdit::showEvent(QShowEvent* event)
     QWidget::showEvent(event);
     // The pop-up, not the field: the loss of the focus must be noticed even when the field was never clicked.
     setFocus();
+}
+
+void CSelectMachineIPLineEdit::keyPressEvent(QKeyEvent* event)
+{
+    // The pop-up has the focus from the start and the field takes it from a click alone: what is typed goes there. A
+    // key that the field does not want comes back.
+    if (m_bHandingOn) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    const QPointer<CSelectMachineIPLineEdit> self(this);
+    m_bHandingOn = true;
+    QCoreApplication::sendEvent(ui->lineEdit, event);
+    if (self) {
+        m_bHandingOn = false;
+    }
 }
 
 void CSelectMachineIPLineEdit::on_lineEdit_textChanged(QString text)

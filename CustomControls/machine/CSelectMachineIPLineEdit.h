@@ -43,11 +43,14 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private Q_SLOTS:
     void on_lineEdit_textChanged(QString text);
 
 private:
+    friend class CSelectMachineIPLineEditAccessible;
+
     /** True for a whole IPv4 address in dotted decimals, and nothing around it. */
     bool IsValidIp(const QString& text);
     /** Blinks the field's border three times; starts over when it is already blinking. */
@@ -61,4 +64,6 @@ private:
     QTimer* m_pFlashTimer = nullptr;
     int m_iFlashCount = 0;
     bool m_bFlashOn = false;
+
+    bool m_bHandingOn = false; // a key goes to the field
 };

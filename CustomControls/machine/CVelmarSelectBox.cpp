@@ -3,11 +3,16 @@
 #include "ui_CVelmarSelectBox.h"
 
 #include <CorvaneBase/CorvaneFonts.h>
+#include <CustomControls/accessibility/AccessibleFactory.h>
+#include <CustomControls/accessibility/KeyboardFocus.h>
+#include <CustomControls/machine/CVelmarSelectBoxAccessible.h>
 
 #include <QIcon>
 
 namespace {
 constexpr QSize BoxIconSize(16, 16);
+
+const AccessibleFactory::Registration<CVelmarSelectBox, CVelmarSelectBoxAccessible> kAccessible;
 } // namespace
 
 CVelmarSelectBox::CVelmarSelectBox(QWidget* parent)
@@ -18,6 +23,9 @@ CVelmarSelectBox::CVelmarSelectBox(QWidget* parent)
     const QIcon icon(QStringLiteral(":/icon/selectbox/base/icon_scanning_right_inf_maopi.png"));
     ui->m_labelBoxIcon->setPixmap(icon.pixmap(BoxIconSize, QIcon::Normal, QIcon::Off));
     ui->m_labelHint->hide();
+    ui->m_btnClose->setAccessibleName(tr("关闭"));
+    KeyboardFocus::ShowOn(ui->m_btnClose);
+    KeyboardFocus::ShowOn(ui->m_btnConfirm);
     setAttribute(Qt::WA_DeleteOnClose, true);
     SetFont();
     connect(ui->m_btnConfirm, &QPushButton::clicked, this, &CVelmarSelectBox::SlotConfirm);

@@ -13,6 +13,9 @@ class CVelmarSelectBox;
  * A shell deletes itself when it closes (Qt::WA_DeleteOnClose): keep a QPointer to it, or none. It closes by its close
  * button and by Escape; the confirm button only calls SlotConfirm. As it comes, it reads as a pop-up that adds a blank.
  *
+ * Keyboard and accessibility: Tab reaches the buttons and what the main area holds, Space presses a button, Escape
+ * closes. A screen reader meets a dialog named by the box's title.
+ *
  * @code
  * auto* box = new CVelmarSelectBox(mainWindow);
  * box->SetBoxInfo(":/icon/blank.png", tr("Add blank"), tr("Add"));
@@ -62,6 +65,8 @@ private Q_SLOTS:
     void SlotClose() override;
 
 private:
+    friend class CVelmarSelectBoxAccessible;
+
     void SetFont();
 
     Ui::CVelmarSelectBox* ui;

@@ -2,14 +2,17 @@
 
 #include "ui_CComboBox.h"
 
+#include <CustomControls/menus/CComboBoxAccessible.h>
 #include <CustomControls/menus/CVelmarMenu.h>
 
 #include <CorvaneBase/CorvaneFonts.h>
+#include <CustomControls/accessibility/AccessibleFactory.h>
 
 #include <QAbstractItemView>
 #include <QCursor>
 #include <QEvent>
 #include <QFontMetrics>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPointer>
@@ -71,6 +74,8 @@ QWidget* ListHostOf(QWidget* widget)
     }
     return widget;
 }
+
+const AccessibleFactory::Registration<CComboBox, CComboBoxAccessible> kAccessible;
 
 } // namespace
 
@@ -268,6 +273,13 @@ bool CComboBox::eventFilter(QObject* obj, QEvent* event)
             return true;
         }
         break;
+    case QEvent::KeyPress: {
+        const QPointer<CComboBox> self(this);
+        if (obj == this && IsListOpen() && (PressListKey(static_cast<QKeyEvent*>(event)) || !self)) {
+            return true;
+        }
+        break;
+    }
     case QEvent::Enter:
         if (obj == this && isEnabled()) {
             Wear(this, kEnterSheet);
@@ -444,4 +456,19 @@ bool CComboBox::CloseList()
         m_pMenu->parentWidget()->setFocus();
     }
     return !self.isNull();
+}
+
+bool CComboBox::IsListOpen() const
+{
+    return m_pMenu && m_pMenu->isVisible();
+}
+
+// The box keeps the focus while its list is open, and hands the keys on.
+bool CComboBox::PressListKey(const QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape) {
+        hidePopup();
+        return true;
+    }
+    return m_pMenu->PressKey(event, m_pMenu->MenuButton(currentIndex()));
 }

@@ -27,6 +27,11 @@ class CComboBox;
  * box, list and window may go in any order. Only from the box's own signals it is ended by deleteLater(), as every
  * QComboBox.
  *
+ * Keyboard and accessibility: Space, F4 or Alt+Down open the list; while it is open the arrow keys mark an entry,
+ * Return and Space take it, Escape closes the list and leaves the entry as it was. Tab passes the box by: it takes the
+ * focus from a click alone. A screen reader meets a combo box with the current entry as its value; a label with the box
+ * as its buddy, a tool tip or an accessibleName gives it a name.
+ *
  * @code
  * auto* box = new CComboBox(panel);
  * box->SetBoxSize(200, 28, 0);
@@ -97,6 +102,8 @@ private Q_SLOTS:
     void SlotChangeItem();
 
 private:
+    friend class CComboBoxAccessible;
+
     QStringList Items() const;
     void SetItems(const QStringList& texts);
     QSize BoxSize() const;
@@ -109,6 +116,8 @@ private:
     bool IsCursorOnScrollBar() const;
     void PlaceList();
     bool CloseList();
+    bool IsListOpen() const;
+    bool PressListKey(const QKeyEvent* event);
 
     QList<QString> m_listValues;
     Ui::CComboBox* ui;

@@ -2,15 +2,18 @@
 
 #include "ui_CCustomMenu.h"
 
-#include <CustomControls/menus/CCustomMenuItem.h>
-
 #include <CorvaneBase/CorvaneFonts.h>
 #include <CorvaneBase/CorvaneTextHelper.h>
+#include <CustomControls/accessibility/AccessibleFactory.h>
+#include <CustomControls/menus/CCustomMenuAccessible.h>
+#include <CustomControls/menus/CCustomMenuItem.h>
+#include <CustomControls/menus/MenuKeyboard.h>
 
 #include <QCoreApplication>
 #include <QCursor>
 #include <QEvent>
 #include <QFontMetrics>
+#include <QKeyEvent>
 #include <QLayout>
 #include <QPointer>
 #include <QSet>
@@ -59,6 +62,8 @@ bool IsPresent(const QWidget* entry)
 {
     return entry->isEnabledTo(entry->parentWidget());
 }
+
+const AccessibleFactory::Registration<CCustomMenu, CCustomMenuAccessible> kAccessible;
 
 } // namespace
 
@@ -396,6 +401,33 @@ void CCustomMenu::showEvent(QShowEvent* event)
 {
     Q_EMIT SignalShow();
     QWidget::showEvent(event);
+}
+
+bool CCustomMenu::event(QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::Show:
+        TellEvent(this, QAccessible::PopupMenuStart);
+        break;
+    case QEvent::Hide:
+        TellEvent(this, QAccessible::PopupMenuEnd);
+        break;
+    case QEvent::KeyPress: {
+        const QPointer<CCustomMenu> self(this);
+        const MenuKeyboard::Outcome outcome = MenuKeyboard::Press(this, static_cast<QKeyEvent*>(event));
+        if (outcome == MenuKeyboard::Leaves) {
+            hide();
+        }
+        if (!self || outcome != MenuKeyboard::Ignored) {
+            event->accept();
+            return true;
+        }
+        break;
+    }
+    default:
+        break;
+    }
+    return QWidget::event(event);
 }
 
 CCustomMenuItem* CCustomMenu::AddRow(const QString& text, const QString& shortcut, const QString& icon,

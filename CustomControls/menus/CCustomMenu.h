@@ -24,6 +24,11 @@ class CCustomMenu;
  * and separators belong to the menu; a sub-menu belongs to the menu's own parent, so that it can lie beside the menu,
  * or, where there is no parent, goes with the menu. Everything may be deleted at any time, from a row's click too.
  *
+ * Keyboard and accessibility: with the focus on the menu, on its button in a menu bar (CMenuBtnHelper) or on the text
+ * view that has opened it, Up, Down, Home and End move over the rows, Return and Space do what a click does, Right and
+ * Left go into a sub-menu and back, Escape closes. The row reached bears the choose focus. A screen reader meets a menu
+ * of menu items.
+ *
  * @code
  * auto* menu = new CCustomMenu(window);
  * menu->AddMenuItem(tr("Open"), "Ctrl+O", ":/icon/open.png", ":/icon/open_hover.png", ":/icon/open_off.png");
@@ -138,8 +143,12 @@ Q_SIGNALS:
 
 protected:
     void showEvent(QShowEvent* event) override;
+    bool event(QEvent* event) override;
 
 private:
+    friend class CCustomMenuAccessible;
+    friend class MenuKeyboard;
+
     CCustomMenuItem* AddRow(const QString& text, const QString& shortcut, const QString& icon, const QString& iconHover,
                             const QString& iconDisabled, bool hasSubMenu);
     void ItemClicked(CCustomMenuItem* item);

@@ -4,6 +4,8 @@
 
 #include <CorvaneBase/CorvaneFonts.h>
 #include <CorvaneBase/CorvaneTextHelper.h>
+#include <CustomControls/accessibility/AccessibleFactory.h>
+#include <CustomControls/menus/CCustomMenuItemAccessible.h>
 
 #include <QCursor>
 #include <QEvent>
@@ -58,6 +60,8 @@ int WidgetSize(qint64 pixels)
 {
     return int(std::clamp<qint64>(pixels, 0, QWIDGETSIZE_MAX));
 }
+
+const AccessibleFactory::Registration<CCustomMenuItem, CCustomMenuItemAccessible> kAccessible;
 
 } // namespace
 
@@ -135,6 +139,7 @@ QString CCustomMenuItem::text()
 void CCustomMenuItem::SetText(const QString& text)
 {
     ui->m_labelText->setText(text);
+    TellNameChanged(this);
 }
 
 void CCustomMenuItem::SetMenuStyle(MenuStyle style)
@@ -200,8 +205,12 @@ void CCustomMenuItem::SetEnabled(bool enabled)
 
 void CCustomMenuItem::SetBtnState(bool checked, bool stateButton)
 {
+    const bool changed = IsIconVisible() != checked;
     SetIconVisible(checked);
     m_bStateButton = stateButton;
+    if (changed && stateButton) {
+        TellCheckedChanged(this);
+    }
 }
 
 bool CCustomMenuItem::IsStateButton() const
@@ -263,6 +272,11 @@ void CCustomMenuItem::mouseMoveEvent(QMouseEvent* event)
 void CCustomMenuItem::setEnabled(bool enabled)
 {
     QWidget::setEnabled(enabled);
+}
+
+QString CCustomMenuItem::ShortcutText() const
+{
+    return ui->m_labelShortCut->text();
 }
 
 void CCustomMenuItem::ShowIcon(QIcon& icon, const QString& path)

@@ -17,6 +17,9 @@ class CCustomMenuItem;
  * Rows are made by CCustomMenu::AddMenuItem and AddButtonWithSubMenu and belong to their menu. A row may be deleted at
  * any time, from its own signals too.
  *
+ * Accessibility: a menu item named by its text, with its shortcut; a state row is told as checked or not. Its press is
+ * SignalMenuItemClicked() and follows the rules of a click; a row with a sub-menu opens it.
+ *
  * @code
  * menu->AddMenuItem(tr("Grid"), "G", ":/icon/check.png", ":/icon/check_hover.png", ":/icon/check_off.png");
  * CCustomMenuItem* grid = menu->MenuButton(menu->MenuButtonCount() - 1);
@@ -106,7 +109,11 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
 
 private:
+    friend class CCustomMenuItemAccessible;
+    friend class MenuKeyboard;
+
     void setEnabled(bool enabled);
+    QString ShortcutText() const;
 
     void ShowIcon(QIcon& icon, const QString& path);
     void ShowRestIcon();

@@ -1,9 +1,11 @@
 #include <CustomControls/menus/CMenuBtnHelper.h>
 
 #include <CustomControls/menus/CCustomMenu.h>
+#include <CustomControls/menus/MenuKeyboard.h>
 
 #include <QCursor>
 #include <QEvent>
+#include <QKeyEvent>
 #include <QPointer>
 #include <QPushButton>
 
@@ -89,11 +91,15 @@ void CMenuBtnHelper::SetMenuPos(int x, int y)
 bool CMenuBtnHelper::eventFilter(QObject* obj, QEvent* event)
 {
     const QEvent::Type type = event->type();
-    if (type != QEvent::Enter && type != QEvent::FocusOut) {
+    if (type != QEvent::Enter && type != QEvent::FocusOut && type != QEvent::KeyPress) {
         return QObject::eventFilter(obj, event);
     }
     const QPointer<CMenuBtnHelper> self(this);
     const QPointer<QObject> watched(obj);
+    if (type == QEvent::KeyPress) {
+        return KeyPressed(obj, static_cast<QKeyEvent*>(event)) || !self || !watched ? true
+                                                                                    : QObject::eventFilter(obj, event);
+    }
     auto* button = qobject_cast<QPushButton*>(obj);
     if (button && m_hashBtnMenu.contains(button)) {
         if (type == QEvent::Enter) {
@@ -224,6 +230,79 @@ void CMenuBtnHelper::OpenMenu(QPushButton* button, CCustomMenu* menu)
     m_pCurrentMenu = menu;
     menu->move(Coordinate(qint64(button->x()) + m_iMenuX), Coordinate(m_iMenuY));
     menu->show();
+}
+
+// The keys reach a menu through its button, which keeps the focus, or by way of the menu itself once a click gave it
+// the focus. True when nobody else is to see the key.
+bool CMenuBtnHelper::KeyPressed(QObject* obj, const QKeyEvent* event)
+{
+    QPointer<QPushButton> button = qobject_cast<QPushButton*>(obj);
+    QPointer<CCustomMenu> menu = qobject_cast<CCustomMenu*>(obj);
+    if (button && m_hashBtnMenu.contains(button)) {
+        menu = m_hashBtnMenu.value(button);
+    } else if (menu) {
+        menu = m_hashSubMenuRoot.value(menu, menu);
+        button = m_hashBtnMenu.key(menu);
+    }
+    if (!menu || !button) {
+        return false;
+    }
+    if (!menu->isVisible()) {
+        if (event->key() != Qt::Key_Down || event->modifiers() != Qt::NoModifier) {
+            return false;
+        }
+        Toggle(button);
+        if (menu && menu->isVisible()) {
+            MenuKeyboard::ChooseFirst(menu);
+        }
+        return true;
+    }
+    const QPointer<CMenuBtnHelper> self(this);
+    switch (MenuKeyboard::Press(menu, event)) {
+    case MenuKeyboard::Taken:
+        return true;
+    case MenuKeyboard::Leaves:
+        KeepFocus(button, false);
+        m_pCurrentMenu = nullptr;
+        menu->hide();
+        if (self && button) {
+            button->setFocus();
+        }
+        return true;
+    case MenuKeyboard::Ignored:
+        break;
+    }
+    if (!self || event->modifiers() != Qt::NoModifier) {
+        return !self;
+    }
+    return (event->key() == Qt::Key_Right && GoBeside(button, 1)) ||
+           (event->key() == Qt::Key_Left && GoBeside(button, -1));
+}
+
+// What the pointer does by entering the button beside the one whose menu is open.
+bool CMenuBtnHelper::GoBeside(QPushButton* button, int step)
+{
+    QList<QPushButton*> buttons;
+    for (auto pair = m_hashBtnMenu.cbegin(); pair != m_hashBtnMenu.cend(); ++pair) {
+        if (pair.value() && pair.key()->isEnabled() && pair.key()->isVisible()) {
+            buttons.append(pair.key());
+        }
+    }
+    std::sort(buttons.begin(), buttons.end(),
+              [](const QPushButton* left, const QPushButton* right) { return left->x() < right->x(); });
+    const int index = int(buttons.indexOf(button));
+    if (index < 0 || buttons.size() < 2) {
+        return false;
+    }
+    const int count = int(buttons.size());
+    const QPointer<QPushButton> beside = buttons.at((index + step + count) % count);
+    const QPointer<CCustomMenu> menu = m_hashBtnMenu.value(beside);
+    m_pCurrentMenu = m_hashBtnMenu.value(button);
+    ButtonEntered(beside);
+    if (menu && menu->isVisible()) {
+        MenuKeyboard::ChooseFirst(menu);
+    }
+    return true;
 }
 
 void CMenuBtnHelper::ButtonGone(QPushButton* button)

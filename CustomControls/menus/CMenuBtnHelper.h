@@ -6,6 +6,7 @@
 #include <QObject>
 
 class CCustomMenu;
+class QKeyEvent;
 class QPushButton;
 class QWidget;
 
@@ -16,6 +17,10 @@ class QWidget;
  * that one's instead; and a menu closes when the keyboard focus leaves it and its sub-menus. Buttons and menus stay the
  * host's and may be deleted at any time. Give the helper a widget as parent: that is where the focus goes when a press
  * closes a menu. One such widget serves all helpers, the parent of the one made last.
+ *
+ * Keyboard: Space or Down on a button opens its menu, Down enters it; while it is open the keys of CCustomMenu work
+ * from the button, Left and Right go to the menus of the buttons beside it, and Escape closes it and leaves the focus
+ * on the button.
  *
  * @code
  * auto* bar = new CMenuBtnHelper(window);
@@ -56,6 +61,8 @@ private:
     void ButtonEntered(QPushButton* button);
     void ButtonFocusOut(QPushButton* button);
     void OpenMenu(QPushButton* button, CCustomMenu* menu);
+    bool KeyPressed(QObject* obj, const QKeyEvent* event);
+    bool GoBeside(QPushButton* button, int step);
     void ButtonGone(QPushButton* button);
     void MenuGone(CCustomMenu* menu);
 

@@ -2,17 +2,21 @@
 
 #include "ui_CVelmarMenu.h"
 
+#include <CorvaneBase/CorvaneFonts.h>
+#include <CustomControls/accessibility/AccessibleFactory.h>
 #include <CustomControls/buttons/CVelmarButton.h>
+#include <CustomControls/menus/CVelmarMenuAccessible.h>
 #include <CustomControls/menus/CVelmarMenuItem.h>
 
-#include <CorvaneBase/CorvaneFonts.h>
-
+#include <QApplication>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSet>
+#include <QStyleOptionButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -119,11 +123,22 @@ bool IsHiddenItself(const QWidget* entry)
     return entry->isHidden() && entry->testAttribute(Qt::WA_WState_ExplicitShowHide);
 }
 
-/** A button that does not ask to be painted when it comes with its menu, unless a part of it is in view. */
+/**
+ * A button that does not ask to be painted when it comes with its menu, unless a part of it is in view. It can be
+ * marked without the pointer, for the keyboard, and then looks as if the pointer were on it.
+ */
 class MenuPushButton : public QPushButton
 {
 public:
     using QPushButton::QPushButton;
+
+    void SetMarked(bool marked)
+    {
+        if (m_bMarked != marked) {
+            m_bMarked = marked;
+            update();
+        }
+    }
 
     bool event(QEvent* event) override
     {
@@ -133,6 +148,30 @@ public:
         }
         return QPushButton::event(event);
     }
+
+protected:
+    void initStyleOption(QStyleOptionButton* option) const override
+    {
+        QPushButton::initStyleOption(option);
+        if (m_bMarked) {
+            option->state |= QStyle::State_MouseOver;
+        }
+    }
+
+    void focusInEvent(QFocusEvent* event) override
+    {
+        SetMarked(event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason);
+        QPushButton::focusInEvent(event);
+    }
+
+    void focusOutEvent(QFocusEvent* event) override
+    {
+        SetMarked(false);
+        QPushButton::focusOutEvent(event);
+    }
+
+private:
+    bool m_bMarked = false;
 };
 
 /** The rows of the scroll area. Its size is fixed, so that no row has to be asked for it. */
@@ -159,6 +198,8 @@ QList<QPointer<QWidget>> NamedRows(const QList<Row*>& rows, const QList<int>& in
     }
     return named;
 }
+
+const AccessibleFactory::Registration<CVelmarMenu, CVelmarMenuAccessible> kAccessible;
 
 } // namespace
 
@@ -474,6 +515,30 @@ void CVelmarMenu::mousePressEvent(QMouseEvent* event)
     }
 }
 
+bool CVelmarMenu::event(QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::Show:
+        TellEvent(this, QAccessible::PopupMenuStart);
+        break;
+    case QEvent::Hide:
+        SetKeyRow(nullptr);
+        TellEvent(this, QAccessible::PopupMenuEnd);
+        break;
+    case QEvent::KeyPress: {
+        const QPointer<CVelmarMenu> self(this);
+        if (PressKey(static_cast<QKeyEvent*>(event), nullptr) || !self) {
+            event->accept();
+            return true;
+        }
+        break;
+    }
+    default:
+        break;
+    }
+    return QWidget::event(event);
+}
+
 void CVelmarMenu::setFixedSize(const QSize& size)
 {
     setFixedSize(size.width(), size.height());
@@ -711,5 +776,103 @@ void CVelmarMenu::SetPresent(const QList<QPointer<QWidget>>& rows, bool present)
     if (self) {
         FitScrollWidget();
         UpdateMenuSize();
+    }
+}
+
+// Buttons and rows from top to bottom, hidden ones included.
+QList<QWidget*> CVelmarMenu::Rows() const
+{
+    QList<QWidget*> rows(m_listButtons.cbegin(), m_listButtons.cend());
+    if (!m_listItems.isEmpty()) {
+        rows.append(QList<QWidget*>(m_listItems.cbegin(), m_listItems.cend()));
+        const auto top = [this](const QWidget* row) { return row->mapTo(this, QPoint()).y(); };
+        std::stable_sort(rows.begin(), rows.end(),
+                         [top](const QWidget* left, const QWidget* right) { return top(left) < top(right); });
+    }
+    return rows;
+}
+
+// The keys of an open menu. They start at the given row as long as they have reached none.
+bool CVelmarMenu::PressKey(const QKeyEvent* event, QWidget* start)
+{
+    if (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) {
+        return false;
+    }
+    QList<QWidget*> rows = Rows();
+    // A host's own button has a look of its own for the keyboard, and Tab reaches it.
+    rows.removeIf([](const QWidget* row) {
+        return !row->isEnabled() || !row->isVisibleTo(row->parentWidget()) || qobject_cast<const CVelmarButton*>(row);
+    });
+    if (rows.isEmpty()) {
+        return false;
+    }
+    QWidget* focused = QApplication::focusWidget();
+    QWidget* from = m_pKeyRow ? m_pKeyRow.data() : rows.contains(focused) ? focused : start;
+    const int current = int(rows.indexOf(from));
+    const int last = int(rows.size()) - 1;
+    switch (event->key()) {
+    case Qt::Key_Down:
+        SetKeyRow(rows.at(current < last ? current + 1 : 0));
+        return true;
+    case Qt::Key_Up:
+        SetKeyRow(rows.at(current > 0 ? current - 1 : last));
+        return true;
+    case Qt::Key_Home:
+        SetKeyRow(rows.first());
+        return true;
+    case Qt::Key_End:
+        SetKeyRow(rows.last());
+        return true;
+    case Qt::Key_PageDown:
+        SetKeyRow(rows.at(std::min(last, std::max(current, 0) + kRowsInScrollArea - 1)));
+        return true;
+    case Qt::Key_PageUp:
+        SetKeyRow(rows.at(std::max(0, current - kRowsInScrollArea + 1)));
+        return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+        if (current < 0 || event->isAutoRepeat()) {
+            return current >= 0;
+        }
+        return ActivateRow(rows.at(current));
+    default:
+        return false;
+    }
+}
+
+bool CVelmarMenu::ActivateRow(QWidget* row)
+{
+    if (auto* item = qobject_cast<CVelmarMenuItem*>(row)) {
+        if (item->m_bHasSubMenu) {
+            return false;
+        }
+        item->Click();
+    } else {
+        static_cast<QPushButton*>(row)->click();
+    }
+    return true;
+}
+
+void CVelmarMenu::SetKeyRow(QWidget* row)
+{
+    if (m_pKeyRow == row) {
+        return;
+    }
+    const auto mark = [](QWidget* entry, bool marked) {
+        if (auto* item = qobject_cast<CVelmarMenuItem*>(entry)) {
+            item->SetChooseFocus(marked);
+        } else if (auto* button = dynamic_cast<MenuPushButton*>(entry)) {
+            button->SetMarked(marked);
+        }
+    };
+    mark(m_pKeyRow, false);
+    m_pKeyRow = row;
+    if (row) {
+        mark(row, true);
+        if (m_pScrollArea && m_pScrollWidget->isAncestorOf(row)) {
+            m_pScrollArea->ensureWidgetVisible(row, 0, 0);
+        }
+        TellEvent(row, QAccessible::Focus);
     }
 }

@@ -13,6 +13,7 @@
 
 class CVelmarButton;
 class CVelmarMenuItem;
+class QKeyEvent;
 class QPushButton;
 class QScrollArea;
 class QVBoxLayout;
@@ -30,6 +31,10 @@ class CVelmarMenu;
  *
  * The parent widget owns the menu, the menu its rows. A host may delete a row or the menu at any time, from a row's own
  * click too.
+ *
+ * Keyboard and accessibility: Tab reaches the buttons; with the focus on the menu, or on the combo box whose list it
+ * is, Up, Down, Home, End, PageUp and PageDown mark a row as the pointer would, Return and Space do what a click does.
+ * A screen reader meets a menu of buttons and menu items.
  *
  * @code
  * auto* menu = new CVelmarMenu(window);
@@ -121,8 +126,13 @@ Q_SIGNALS:
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
+    bool event(QEvent* event) override;
 
 private:
+    friend class CComboBox;
+    friend class CVelmarMenuAccessible;
+    friend class CVelmarMenuItemAccessible;
+
     void setFixedSize(const QSize& size);
     void setFixedSize(int width, int height);
 
@@ -145,6 +155,10 @@ private:
     void ItemGone(CVelmarMenuItem* item);
     void SplitLineGone(QWidget* line);
     void SetPresent(const QList<QPointer<QWidget>>& rows, bool present);
+    QList<QWidget*> Rows() const;
+    bool PressKey(const QKeyEvent* event, QWidget* start);
+    bool ActivateRow(QWidget* row);
+    void SetKeyRow(QWidget* row);
 
     static CVelmarMenu* m_pCurrentShowMenu;
 
@@ -164,4 +178,5 @@ private:
 
     bool m_bLayoutQueued = false;
     QTimer m_timerLayout;
+    QPointer<QWidget> m_pKeyRow; // which the arrow keys have reached
 };

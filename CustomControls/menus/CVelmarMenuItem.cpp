@@ -3,6 +3,8 @@
 #include "ui_CVelmarMenuItem.h"
 
 #include <CorvaneBase/CorvaneFonts.h>
+#include <CustomControls/accessibility/AccessibleFactory.h>
+#include <CustomControls/menus/CVelmarMenuItemAccessible.h>
 
 #include <QEvent>
 #include <QMouseEvent>
@@ -44,6 +46,8 @@ void Wear(QWidget* widget, const QString& sheet)
         widget->setStyleSheet(sheet);
     }
 }
+
+const AccessibleFactory::Registration<CVelmarMenuItem, CVelmarMenuItemAccessible> kAccessible;
 
 } // namespace
 
@@ -113,6 +117,7 @@ QString CVelmarMenuItem::text()
 void CVelmarMenuItem::SetText(const QString& text)
 {
     ui->m_labelText->setText(text);
+    TellNameChanged(this);
 }
 
 void CVelmarMenuItem::SetIcon(const QString& path)
@@ -189,11 +194,7 @@ bool CVelmarMenuItem::eventFilter(QObject* obj, QEvent* event)
         break;
     case QEvent::MouseButtonRelease:
         if (!m_bHasSubMenu && rect().contains(static_cast<QMouseEvent*>(event)->position().toPoint())) {
-            // Whoever hears of the choice may delete the row, or the menu with it.
-            Q_EMIT SignalMenuBtnFocus(false);
-            if (self) {
-                Q_EMIT SignalMenuItemClicked();
-            }
+            Click();
             return true;
         }
         Q_EMIT SignalMenuBtnFocus(true);
@@ -205,6 +206,21 @@ bool CVelmarMenuItem::eventFilter(QObject* obj, QEvent* event)
         break;
     }
     return self ? QWidget::eventFilter(obj, event) : true;
+}
+
+void CVelmarMenuItem::Click()
+{
+    // Whoever hears of the choice may delete the row, or the menu with it.
+    const QPointer<CVelmarMenuItem> self(this);
+    Q_EMIT SignalMenuBtnFocus(false);
+    if (self) {
+        Q_EMIT SignalMenuItemClicked();
+    }
+}
+
+QString CVelmarMenuItem::ShortcutText() const
+{
+    return ui->m_labelShortCut->text();
 }
 
 void CVelmarMenuItem::SetTextSheets()

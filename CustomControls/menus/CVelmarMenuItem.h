@@ -18,6 +18,9 @@ class CVelmarMenuItem;
  * Rows are light in every style; there is no dark look. A disabled row takes no events at all: it neither hovers nor
  * clicks, nor does the menu hear of the mouse on it. The menu owns its rows.
  *
+ * Accessibility: a menu item named by its text, with its shortcut. Its press does what a click does; a row with a sub-
+ * menu reports no click, and so has none.
+ *
  * @code
  * menu->AddMenuItem(tr("..."), ":/icon/open.png", "Ctrl+O");
  * connect(menu->MenuItem(0), &CVelmarMenuItem::SignalMenuItemClicked, this, &Window::Open);
@@ -73,6 +76,11 @@ Q_SIGNALS:
     void SignalMenuBtnFocus(bool focus);
 
 private:
+    friend class CVelmarMenu;
+    friend class CVelmarMenuItemAccessible;
+
+    void Click();
+    QString ShortcutText() const;
     void SetTextSheets();
     void ShowFocus(bool focus, const QString& textSheet);
     QString FocusTextSheet(const QString& form) const;

@@ -2,15 +2,18 @@
 
 #include "ui_CVelmarMessageBox.h"
 
-#include <CustomControls/messagebox/CVelmarMessageListItem.h>
-#include <CustomControls/messagebox/MovieCopy_p.h>
-
 #include <CorvaneBase/CDebugLog.h>
 #include <CorvaneBase/CorvaneConstants.h>
 #include <CorvaneBase/CorvaneFonts.h>
 #include <CorvaneBase/CorvaneSignalHelper.h>
 #include <CorvaneBase/CorvaneTextHelper.h>
 #include <CorvaneBase/CorvaneToolBitHelper.h>
+#include <CustomControls/accessibility/AccessibleControl.h>
+#include <CustomControls/accessibility/AccessibleFactory.h>
+#include <CustomControls/accessibility/KeyboardFocus.h>
+#include <CustomControls/messagebox/CVelmarMessageBoxAccessible.h>
+#include <CustomControls/messagebox/CVelmarMessageListItem.h>
+#include <CustomControls/messagebox/MovieCopy_p.h>
 
 #include <QApplication>
 #include <QDebug>
@@ -26,6 +29,7 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QTextBrowser>
 #include <QTextDocument>
@@ -142,6 +146,8 @@ QListWidgetItem* AddTool(QListWidget* list, QWidget* box, int tool, MachiningTyp
     return AddToolListRow(list, row);
 }
 
+const AccessibleFactory::Registration<CVelmarMessageBox, CVelmarMessageBoxAccessible> kAccessible;
+
 } // namespace
 
 QPointer<QWidget> CVelmarMessageBox::m_pTopWidget;
@@ -207,6 +213,7 @@ CVelmarMessageBox::CVelmarMessageBox(QWidget* parent, int buttonMask, EnumMsgIco
     // Hidden before the first show rather than after it: its height fits into the button row either way, and a box that
     // never shows it never pays for its style sheet.
     ui->checkBox->hide();
+    KeyboardFocus::ShowOn(ui->checkBox);
     adjustSize();
     show();
     m_bCloseRequested = false;
@@ -247,6 +254,7 @@ void CVelmarMessageBox::ApplyCloseButtonRule(int buttonMask)
     m_pBtnClose->setFixedSize(kCloseButtonSize);
     m_pBtnClose->move(width() - m_pBtnClose->width() - kCloseButtonGap, kCloseButtonGap);
     m_pBtnClose->setFocusPolicy(Qt::NoFocus);
+    m_pBtnClose->setAccessibleName(tr("关闭"));
     m_pBtnClose->show();
     connect(m_pBtnClose, &QPushButton::clicked, this, &CVelmarMessageBox::pushButton_clicked_slot);
 }
@@ -475,6 +483,7 @@ bool CVelmarMessageBox::eventFilter(QObject* obj, QEvent* event)
     const QPointer<CVelmarMessageBox> self(this);
     if (event->type() == QEvent::Show) {
         CorvaneSignalHelper::instance()->AdjustWindowPosition(this);
+        TellEvent(this, QAccessible::Alert);
     } else if (event->type() == QEvent::KeyRelease) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Escape) {
@@ -520,6 +529,20 @@ void CVelmarMessageBox::mouseMoveEvent(QMouseEvent* event)
         m_ptDragGlobal = position;
     }
     QWidget::mouseMoveEvent(event);
+}
+
+void CVelmarMessageBox::keyPressEvent(QKeyEvent* event)
+{
+    // The list of tools takes no focus; who has no wheel turns its pages.
+    const int key = event->key();
+    if (key == Qt::Key_PageDown || key == Qt::Key_PageUp) {
+        if (const auto* list = findChild<QListWidget*>()) {
+            list->verticalScrollBar()->triggerAction(key == Qt::Key_PageDown ? QAbstractSlider::SliderPageStepAdd
+                                                                             : QAbstractSlider::SliderPageStepSub);
+            return;
+        }
+    }
+    QWidget::keyPressEvent(event);
 }
 
 void CVelmarMessageBox::LogInCheckingMode(const char* entry, const QString& title, const QString& content)

@@ -62,6 +62,10 @@ enum EnumMsgButtonFunction : int
  * to change its text or to end it from outside, builds one itself, owns it and runs it with MsgExec. Deleting a box or
  * its parent while it runs ends the run. For a notice that needs no answer take ToastWidget.
  *
+ * Keyboard and accessibility: Tab and the arrow keys go from button to button, whose border shows the focus; Return or
+ * Space presses the one that has it, Escape is the close button, and PageUp and PageDown turn the pages of a list of
+ * tools. A screen reader is alerted as the box shows and meets a dialog named by its title that tells its content.
+ *
  * @code
  * const int answer =
  *     CVelmarMessageBox::ShowWindow(this, MsgBtnYes | MsgBtnNo, MsgIconPop3, tr("删除"), tr("删除该文件？"));
@@ -210,6 +214,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 protected Q_SLOTS:
     /** What a function button's click does: the signal, then the end of the run. */
@@ -218,6 +223,8 @@ protected Q_SLOTS:
     void pushButton_clicked_slot();
 
 private:
+    friend class CVelmarMessageBoxAccessible;
+
     static QEventLoop* CreateEventLoop();
     static void LogInCheckingMode(const char* entry, const QString& title, const QString& content);
     static int RunAndDelete(const QPointer<CVelmarMessageBox>& box);

@@ -1,6 +1,7 @@
 #include <CustomControls/toolbar/CTabBar.h>
 
 #include <CorvaneBase/CorvaneFonts.h>
+#include <CustomControls/accessibility/KeyboardFocus.h>
 
 #include <QFontMetrics>
 #include <QStyleOptionTab>
@@ -22,7 +23,9 @@ constexpr QColor kOtherLine(39, 40, 46, 255);
 
 CTabBar::CTabBar(QWidget* parent)
     : QTabBar(parent)
-{}
+{
+    KeyboardFocus::ShowOn(this);
+}
 
 QSize CTabBar::sizeHint() const
 {

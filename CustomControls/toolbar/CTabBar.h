@@ -10,6 +10,8 @@
  *
  * CTabWidget makes its own; a host rarely does. Owned by its parent.
  *
+ * Keyboard: Left and Right change the tab, and a ring around the current one shows that Tab has led here.
+ *
  * @code
  * auto* tabs = new CTabBar(this);
  * tabs->addTab(tr("开始"));

@@ -102,6 +102,7 @@ CToolBarItem::CToolBarItem(const QString& name, QWidget* parent)
         m_pExtensionBtn->setStyleSheet(kExtensionSheet);
         m_pExtensionBtn->setIconSize(kExtensionIcon);
         m_pExtensionBtn->setFixedHeight(kExtensionHeight);
+        m_pExtensionBtn->setAccessibleName(tr("更多工具"));
     }
 }
 

@@ -1,6 +1,9 @@
 #include <CustomControls/toolbar/CToolButton.h>
 
 #include <CorvaneBase/CorvaneFonts.h>
+#include <CustomControls/accessibility/AccessibleFactory.h>
+#include <CustomControls/accessibility/KeyboardFocus.h>
+#include <CustomControls/toolbar/CToolButtonAccessible.h>
 
 #include <QDebug>
 #include <QEvent>
@@ -54,6 +57,8 @@ QColor CaptionColor(bool enabled, const QColor& highlight)
     return enabled || darkHighlight ? kCaption : kCaptionDisabled;
 }
 
+const AccessibleFactory::Registration<CToolButton, CToolButtonAccessible> kAccessible;
+
 } // namespace
 
 quint64 CToolButton::m_nLinesRevision = 1;
@@ -65,6 +70,7 @@ CToolButton::CToolButton(QWidget* parent)
     // Not every style asks for the hover events that the fill follows.
     setAttribute(Qt::WA_Hover);
     installEventFilter(this);
+    KeyboardFocus::ShowOn(this);
 }
 
 void CToolButton::SetSharedWidth(int width)

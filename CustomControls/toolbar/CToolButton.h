@@ -17,6 +17,10 @@ class QPainter;
  * "highlight", a colour as text ("#ffcc00", "red"), is painted behind everything else; a text that is no colour paints
  * nothing. The property "textColor" is reserved and changes nothing.
  *
+ * Keyboard and accessibility: Tab reaches the button, Space clicks it, and a ring shows that Tab has led here. A screen
+ * reader meets a button, or a check box where it is checkable, named by its caption in one line; one with a menu can
+ * open it.
+ *
  * @code
  * auto* button = new CToolButton(this);
  * button->setText(tr("铣削"));

@@ -71,7 +71,9 @@ CComboBox* CombosPage::CreateBox(const QString& name, const QString& caption, co
     connect(box, &QComboBox::currentTextChanged, this, [this, caption](const QString& text) { Tell(caption, text); });
     auto* column = new QVBoxLayout;
     column->setSpacing(6);
-    column->addWidget(CreateDarkLabel(caption, FontCn_13));
+    QLabel* label = CreateDarkLabel(caption, FontCn_13);
+    label->setBuddy(box);
+    column->addWidget(label);
     column->addWidget(box);
     row->addLayout(column);
     return box;
@@ -156,6 +158,7 @@ void CombosPage::AddTable()
     auto* table = new QTableWidget(int(std::size(parts)), 4);
     table->setObjectName(QStringLiteral("partTable"));
     table->setStyleSheet(QLatin1String(TableSheet));
+    table->setAccessibleName(tr("零件清单"));
     table->setFont(FontCn_13);
     table->setHorizontalHeaderLabels({tr("零件"), tr("材料"), tr("加工面"), tr("数量")});
     table->horizontalHeader()->setFont(FontCn_13);
@@ -179,6 +182,7 @@ void CombosPage::AddTable()
         layout->setContentsMargins(4, 5, 8, 5);
         auto* box = new CTableComboBox(cell);
         box->setObjectName(QStringLiteral("%1%2").arg(name).arg(row));
+        box->setAccessibleName(part + QLatin1Char(' ') + table->horizontalHeaderItem(column)->text());
         box->addItems(entries);
         box->setCurrentIndex(current);
         connect(box, &QComboBox::textActivated, this, [this, part](const QString& text) { Tell(part, text); });
@@ -204,6 +208,7 @@ void CombosPage::AddSpindle()
 {
     auto* box = new CXCombobox(nullptr);
     box->setObjectName(QStringLiteral("spindleMode"));
+    box->setAccessibleName(tr("主轴"));
     box->setStyleSheet(QLatin1String(SpindleSheet));
     box->setFont(FontCn_14);
     box->setFixedSize(BoxWidth, 32);

@@ -52,6 +52,7 @@ MenusPage::MenusPage(const GalleryOptions&)
     m_pBench->setStyleSheet(QLatin1String(BenchSheet));
     m_pBench->setFixedHeight(BenchHeight);
     m_pView->setObjectName(QStringLiteral("menuView"));
+    m_pView->setAccessibleName(m_strProject);
     m_pProject->setObjectName(QStringLiteral("menuProject"));
     m_pProject->setFont(FontCn_13);
     m_pProject->setStyleSheet(QLatin1String(ProjectSheet));

@@ -282,6 +282,7 @@ QListWidget* ParametersPage::CreateStepList(QWidget* panel)
 {
     auto* list = new QListWidget(panel);
     list->setObjectName(QStringLiteral("stepList"));
+    list->setAccessibleName(tr("加工工序"));
     list->setFont(FontCn_14);
     list->setStyleSheet(QLatin1String(StepListSheet));
     list->verticalScrollBar()->setStyleSheet(GalleryStyle::ScrollBars());

@@ -50,6 +50,7 @@ void TextPage::AddNotes()
     QVBoxLayout* card = AddCard(tr("加工备注"), tr("右键菜单：剪切、复制、粘贴、全选。"), QStringLiteral("text-notes"));
     if (auto* notes = CreateByName<QPlainTextEdit>("CPlainTextEdit")) {
         notes->setObjectName(QStringLiteral("textNotes"));
+        notes->setAccessibleName(tr("加工备注"));
         notes->setFont(FontCn_14);
         notes->setMinimumHeight(ViewHeight);
         notes->setPlainText(
@@ -65,6 +66,7 @@ void TextPage::AddManual()
     QVBoxLayout* card = AddCard(tr("操作手册"), tr("只读；选中文字后右键可以复制。"), QStringLiteral("text-manual"));
     if (auto* manual = CreateByName<QTextBrowser>("CTextBrowser")) {
         manual->setObjectName(QStringLiteral("textManual"));
+        manual->setAccessibleName(tr("操作手册"));
         manual->setStyleSheet(QLatin1String(BrowserSheet));
         manual->verticalScrollBar()->setStyleSheet(GalleryStyle::ScrollBars());
         manual->setFont(FontCn_14);

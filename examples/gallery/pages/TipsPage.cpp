@@ -185,7 +185,9 @@ CHintButton* TipsPage::AddParameter(QGridLayout* grid, const QString& name, cons
     hint->setAccessibleName(tr("%1的说明").arg(name));
     hint->setFixedSize(HintSize, HintSize);
     hint->setStyleSheet(QLatin1String(HintSheet));
-    grid->addWidget(label(name), row, 0);
+    QLabel* caption = label(name);
+    caption->setBuddy(field);
+    grid->addWidget(caption, row, 0);
     grid->addWidget(field, row, 1);
     grid->addWidget(label(unit), row, 2);
     grid->addWidget(hint, row, 3);

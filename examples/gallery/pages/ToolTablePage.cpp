@@ -70,6 +70,7 @@ ToolTable* ToolTablePage::AddTable(const QString& name, const QString& title, co
 {
     auto* table = new ToolTable(Magazine(), types, this);
     table->setObjectName(name);
+    table->setAccessibleName(title);
     connect(table, &ToolTable::SignalToolChosen, this, [this, table](int row) {
         ShowTool(tr("已选择刀具："), table, row);
         ShowChosen();

@@ -1,5 +1,6 @@
 #include "WorkView.h"
 
+#include <QAccessibleWidget>
 #include <QPainter>
 #include <QPolygonF>
 
@@ -31,12 +32,20 @@ constexpr double SeenWidth = 380;
 // Along an isometric view the two axes of the table fall off by 30 degrees.
 constexpr double Cos30 = 0.8660254;
 constexpr double Sin30 = 0.5;
+
+/** A drawing, for a screen reader; what it shows is in its name. */
+QAccessibleInterface* CreateAccessible(const QString& className, QObject* object)
+{
+    auto* view = className == QLatin1String("WorkView") ? qobject_cast<WorkView*>(object) : nullptr;
+    return view ? new QAccessibleWidget(view, QAccessible::Graphic) : nullptr;
+}
 } // namespace
 
 WorkView::WorkView(QWidget* parent)
     : QWidget(parent)
 {
     setFocusPolicy(Qt::StrongFocus);
+    QAccessible::installFactory(CreateAccessible);
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 

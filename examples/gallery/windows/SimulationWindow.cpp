@@ -83,6 +83,7 @@ void SimulationWindow::changeEvent(QEvent* event)
 void SimulationWindow::Retranslate()
 {
     setWindowTitle(tr("刀路仿真"));
+    m_pProgress->setAccessibleName(windowTitle());
     ShowProgress(m_pProgress->value());
 }
 

@@ -51,9 +51,14 @@ ToolDialog::ToolDialog(QWidget* parent)
     form->setHorizontalSpacing(16);
     form->setVerticalSpacing(12);
     form->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    form->addRow(CreateCaption(tr("名称")), m_pName);
-    form->addRow(CreateCaption(tr("直径 (mm)")), CreateField(QStringLiteral("toolDiameter"), QStringLiteral("6.0")));
-    form->addRow(CreateCaption(tr("刃长 (mm)")), CreateField(QStringLiteral("toolLength"), QStringLiteral("22.0")));
+    const auto addField = [form](const QString& caption, QLineEdit* field) {
+        QLabel* label = CreateCaption(caption);
+        label->setBuddy(field);
+        form->addRow(label, field);
+    };
+    addField(tr("名称"), m_pName);
+    addField(tr("直径 (mm)"), CreateField(QStringLiteral("toolDiameter"), QStringLiteral("6.0")));
+    addField(tr("刃长 (mm)"), CreateField(QStringLiteral("toolLength"), QStringLiteral("22.0")));
     auto* content = new QHBoxLayout;
     content->setSpacing(24);
     content->addWidget(picture, 0, Qt::AlignTop);
