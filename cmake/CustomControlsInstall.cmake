@@ -62,6 +62,25 @@ if(UNIX AND NOT APPLE AND BUILD_SHARED_LIBS)
     set_target_properties(CustomControls PROPERTIES INSTALL_RPATH "$ORIGIN")
 endif()
 
+# Qt's plug-ins lie in a folder that every distribution names as it likes; ours goes to the same one below our prefix.
+if(TARGET CustomControlsDesigner)
+    get_target_property(customcontrols_qmake Qt6::qmake IMPORTED_LOCATION)
+    execute_process(COMMAND "${customcontrols_qmake}" -query QT_INSTALL_PREFIX
+        OUTPUT_VARIABLE customcontrols_qt_prefix OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+    execute_process(COMMAND "${customcontrols_qmake}" -query QT_INSTALL_PLUGINS
+        OUTPUT_VARIABLE customcontrols_qt_plugins OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+    file(RELATIVE_PATH customcontrols_plugindir "${customcontrols_qt_prefix}" "${customcontrols_qt_plugins}")
+    set(CUSTOMCONTROLS_INSTALL_PLUGINDIR "${customcontrols_plugindir}" CACHE STRING
+        "Where Qt's plug-ins lie below the prefix")
+    install(TARGETS CustomControlsDesigner DESTINATION "${CUSTOMCONTROLS_INSTALL_PLUGINDIR}/designer"
+        COMPONENT Designer)
+    if(UNIX AND NOT APPLE)
+        file(RELATIVE_PATH customcontrols_rpath
+            "${CMAKE_INSTALL_PREFIX}/${CUSTOMCONTROLS_INSTALL_PLUGINDIR}/designer" "${CMAKE_INSTALL_FULL_LIBDIR}")
+        set_target_properties(CustomControlsDesigner PROPERTIES INSTALL_RPATH "$ORIGIN/${customcontrols_rpath}")
+    endif()
+endif()
+
 # The programs that show and try the library come along where they are built.
 foreach(program gallery machine-simulator)
     if(TARGET ${program})

@@ -144,9 +144,14 @@ QStringList CComboBox::Items() const
 
 void CComboBox::SetItems(const QStringList& texts)
 {
+    const int current = currentIndex();
     RemoveAllItems();
     for (const QString& text : texts) {
         AddComboItem(text);
+    }
+    // The same entries in another language leave the user's choice as it is.
+    if (current > 0 && current < count()) {
+        setCurrentIndex(current);
     }
 }
 

@@ -42,7 +42,7 @@ class CComboBox;
 class CUSTOMCONTROLS_EXPORT CComboBox : public QComboBox
 {
     Q_OBJECT
-    /** All entries at once; setting it makes the first one current. */
+    /** All entries at once; the current index stays where the new ones have it, else the first one is current. */
     Q_PROPERTY(QStringList items READ Items WRITE SetItems)
     Q_PROPERTY(int maxItemCount MEMBER m_iMaxItemCount WRITE SetMaxItemCount)
     /** Fixes box and list, whose rows get the box's height. */

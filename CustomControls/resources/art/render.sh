@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# Renders every picture of the library and of the gallery from the vector sources beside this script.
+# Renders every picture of the library, of the gallery and of the Designer plug-in from the vector sources beside this
+# script.
 #
-#   render.sh            rebuilds the images and both resource lists
+#   render.sh            rebuilds the images and their resource lists
 #   render.sh --check    renders into a scratch folder and fails where the tree differs
 #   render.sh --sheets   also lays out contact sheets in build/contact-sheets
 #
@@ -14,6 +15,7 @@ art=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 top=$(cd "$art/../../.." && pwd)
 library=CustomControls/resources
 gallery=examples/gallery/resources
+designer=designer/resources
 mode=${1:-}
 out=$top
 
@@ -90,7 +92,7 @@ tree() { # folder of sources, target folder, zooms of the twins
     for source in "$1"/**/*.svg; do
         name=${source#"$1"/}
         name=${name%.svg}
-        case $name in gallery/*) [ "$1" = "$art" ] && continue ;; esac
+        case $name in gallery/* | designer/*) [ "$1" = "$art" ] && continue ;; esac
         case $name in */turning) turning "$source" "$2/${name%/*}" "$3" && continue ;; esac
         render "$source" "$2/$name" 1
         [[ " ${single[*]} " == *" ${name##*/} "* ]] && continue
@@ -131,18 +133,21 @@ sheet() { # folder of pictures, target
 }
 
 [ "$mode" != --check ] || out=$(mktemp -d)
-rm -rf "$out/$library/icon" "$out/$gallery"/{icon,mainwindow,gallery}
+rm -rf "$out/$library/icon" "$out/$gallery"/{icon,mainwindow,gallery} "$out/$designer/customcontrols-designer"
 mkdir -p "$out/$library" "$out/$gallery"
 tree "$art" "$out/$library" 2
 tree "$art/gallery" "$out/$gallery" "2 3"
+tree "$art/designer" "$out/$designer" 2
 list "$out/$library" CustomControls.qrc icon
 list "$out/$gallery" gallery.qrc gallery icon mainwindow
+list "$out/$designer" designer.qrc customcontrols-designer
 
 case $mode in
     --check)
         diff -r "$out/$library/icon" "$top/$library/icon"
         diff "$out/$library/CustomControls.qrc" "$top/$library/CustomControls.qrc"
         diff -r "$out/$gallery" "$top/$gallery"
+        diff -r "$out/$designer" "$top/$designer"
         rm -r "$out"
         echo 'the images match their sources'
         ;;
@@ -150,7 +155,7 @@ case $mode in
         sheets=$top/build/contact-sheets
         mkdir -p "$sheets"
         cd "$top"
-        for folder in "$library"/icon/**/ "$gallery"/**/; do
+        for folder in "$library"/icon/**/ "$gallery"/**/ "$designer"/**/; do
             folder=${folder%/}
             name=${folder#CustomControls/resources/}
             sheet "$top/$folder" "$sheets/${name//\//_}.png"
