@@ -592,6 +592,10 @@ void CSelectMachineBox::GetMachineSNViaTcp(QString& error, const QString& ip, un
         if (query->socket) {
             query->socket->disconnectFromHost();
         }
+        // One that has never been connected goes on trying for half a minute more, and has no end to report.
+        if (query->socket && query->socket->state() < QAbstractSocket::ConnectedState) {
+            query->socket->deleteLater();
+        }
         if (query->timer) {
             query->timer->deleteLater();
         }

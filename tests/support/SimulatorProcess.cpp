@@ -94,6 +94,12 @@ QStringList SimulatorProcess::Log()
     return QString::fromUtf8(m_output).split(u'\n', Qt::SkipEmptyParts);
 }
 
+void SimulatorProcess::ForgetLog()
+{
+    m_process.readAllStandardOutput();
+    m_output.clear();
+}
+
 bool SimulatorProcess::WaitForLog(const QString& text, int timeoutMs)
 {
     const auto isThere = [this, &text] {

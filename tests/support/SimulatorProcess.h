@@ -45,6 +45,8 @@ public:
 
     /** The lines that it has printed so far. */
     QStringList Log();
+    /** Drops the lines so far, for what runs so long that they would pile up; Port() is not known any more then. */
+    void ForgetLog();
     /** Waits until a line holds @p text. */
     bool WaitForLog(const QString& text, int timeoutMs = 10000);
     /** What it has written to its standard error. */
