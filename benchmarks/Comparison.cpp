@@ -1,194 +1,144 @@
 #include <benchmarks/Comparison.h>
 
+#include <benchmarks/Meter.h>
+
+#include <QElapsedTimer>
+
 #include <algorithm>
-#include <cstdio>
-#include <map>
-#include <vector>
 
 namespace {
 
-constexpr char kOurs[] = "ours";
-constexpr char kSameLook[] = "same look";
-constexpr char kPlain[] = "plain";
-constexpr char kSeparator = '|';
-constexpr int kRepetitions = 9;
-constexpr int kTimed = 0;
-constexpr int kGrowthIterations = 5;
+constexpr const char* kVariantNames[] = {"ours", "same look", "plain"};
 
-struct Line
-{
-    std::string strName;
-    double dGoal = 0.0;
-};
+constexpr qint64 kMilliseconds = 1500;
+constexpr int kFewestRounds = 7;
+constexpr int kMostRounds = 60;
 
-// Made by constructors of namespace-scope objects, so it has to be built on first use.
-std::vector<Line>& Lines()
+bool g_bQuick = false;
+
+// Made by functions that main calls, and gone with the program.
+std::vector<Comparison>& Registry()
 {
-    static std::vector<Line> lines;
-    return lines;
+    static std::vector<Comparison> comparisons;
+    return comparisons;
 }
 
-double Median(std::vector<double> values)
-{
-    if (values.empty()) {
-        return 0.0;
-    }
-    const auto middle = values.begin() + std::ptrdiff_t(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
-
-// Shows the library's usual lines of aggregates and keeps each repetition's time for the table.
-class RatioReporter : public benchmark::ConsoleReporter
-{
-public:
-    RatioReporter()
-        : ConsoleReporter(OO_Tabular)
-    {}
-
-    void ReportRuns(const std::vector<Run>& runs) override
-    {
-        std::vector<Run> aggregates;
-        for (const Run& run : runs) {
-            if (run.run_type == Run::RT_Aggregate || run.error_occurred) {
-                aggregates.push_back(run);
-            }
-            if (run.run_type == Run::RT_Iteration && !run.error_occurred && run.iterations > 0) {
-                m_times[run.run_name.function_name].push_back(run.real_accumulated_time / double(run.iterations));
-            }
-        }
-        // The single repetitions are for the table alone.
-        if (!aggregates.empty()) {
-            ConsoleReporter::ReportRuns(aggregates);
-        }
-    }
-
-    void PrintTable() const
-    {
-        std::printf("\n| case | ours | ratio to the same look | ratio to plain | goal |\n|---|---|---|---|---|\n");
-        for (const Line& line : Lines()) {
-            const double ours = MedianOf(line.strName, kOurs);
-            if (ours <= 0.0) {
-                continue;
-            }
-            std::printf("| %s | %.3g us | %s | %s | %s |\n", line.strName.c_str(), ours * 1e6,
-                        Ratio(ours, MedianOf(line.strName, kSameLook)).c_str(),
-                        Ratio(ours, MedianOf(line.strName, kPlain)).c_str(),
-                        line.dGoal > 0.0 ? Number(line.dGoal).c_str() : "-");
-        }
-    }
-
-private:
-    static std::string Number(double value)
-    {
-        char text[32];
-        std::snprintf(text, sizeof text, "%.2f", value);
-        return text;
-    }
-
-    static std::string Ratio(double ours, double other) { return other > 0.0 ? Number(ours / other) : "-"; }
-
-    double MedianOf(const std::string& name, const char* variant) const
-    {
-        const auto found = m_times.find(name + kSeparator + variant);
-        return found == m_times.end() ? 0.0 : Median(found->second);
-    }
-
-    std::map<std::string, std::vector<double>> m_times;
+// What is wanted of a phase wherever it occurs.
+const std::map<std::string, double> kGoals = {
+    {"make", 1.2},         {"show", 1.2},          {"first paint", 1.0}, {"repaint", 1.0},
+    {"state change", 1.0}, {"first opening", 1.0}, {"open", 1.0},        {"open, answer, close", 1.0},
 };
+
+double Goal(const Comparison& comparison, const std::string& phase)
+{
+    const auto own = comparison.goals.find(phase);
+    if (own != comparison.goals.end()) {
+        return own->second;
+    }
+    const auto usual = kGoals.find(phase);
+    return usual != kGoals.end() ? usual->second : 0.0;
+}
 
 } // namespace
 
-Comparison::Comparison(std::string name)
-    : m_strName(std::move(name))
+double Ledger::Measure(const std::string& phase, const std::function<void()>& work, int times)
 {
-    Lines().push_back({m_strName, 0.0});
-}
-
-Comparison& Comparison::Ours(Run run)
-{
-    Register(kOurs, std::move(run), kTimed);
-    return *this;
-}
-
-Comparison& Comparison::SameLook(Run run)
-{
-    Register(kSameLook, std::move(run), kTimed);
-    return *this;
-}
-
-Comparison& Comparison::Plain(Run run)
-{
-    Register(kPlain, std::move(run), kTimed);
-    return *this;
-}
-
-Comparison& Comparison::Goal(double ratio)
-{
-    const auto line =
-        std::find_if(Lines().begin(), Lines().end(), [this](const Line& l) { return l.strName == m_strName; });
-    line->dGoal = ratio;
-    return *this;
-}
-
-Comparison& Comparison::Growth(const std::function<double(int entries)>& fill, int small, int large)
-{
-    const auto perEntry = [fill](int entries) {
-        return [fill, entries](benchmark::State& state) {
-            for ([[maybe_unused]] auto step : state) {
-                state.SetIterationTime(fill(entries) / entries);
-            }
-        };
-    };
-    Register(kOurs, perEntry(large), kGrowthIterations);
-    Register(kSameLook, perEntry(small), kGrowthIterations);
-    return *this;
-}
-
-Comparison& Comparison::Counted(const std::function<double()>& ours, const std::function<double()>& sameLook)
-{
-    const auto once = [](const std::function<double()>& work) {
-        return [work](benchmark::State& state) {
-            for ([[maybe_unused]] auto step : state) {
-                state.SetIterationTime(work());
-            }
-        };
-    };
-    Register(kOurs, once(ours), 1);
-    Register(kSameLook, once(sameLook), 1);
-    return *this;
-}
-
-void Comparison::Register(const char* variant, Run run, int countedIterations) const
-{
-    benchmark::internal::Benchmark* entry =
-        benchmark::RegisterBenchmark((m_strName + kSeparator + variant).c_str(), std::move(run));
-    entry->Unit(benchmark::kMicrosecond);
-    if (countedIterations != kTimed) {
-        // What is counted is far below the default minimum of time; a fixed number of iterations keeps the run short.
-        entry->UseManualTime()->Iterations(countedIterations);
-    } else {
-        entry->UseRealTime();
+    if (Meter::CountsInstructions() || Comparison::IsQuick()) {
+        times = 1; // counting is exact
     }
+    Meter::Start();
+    for (int i = 0; i < times; ++i) {
+        work();
+    }
+    const double cost = Meter::Stop(m_strName + '/' + phase) / times;
+    Book(phase, cost);
+    return cost;
 }
 
-int Comparison::Main(int argc, char** argv)
+void Ledger::Book(const std::string& phase, double cost)
 {
-    const std::string repetitions = "--benchmark_repetitions=" + std::to_string(kRepetitions);
-    std::vector<std::string> defaults = {argv[0], repetitions, "--benchmark_enable_random_interleaving=true",
-                                         "--benchmark_min_time=0.05"};
-    defaults.insert(defaults.end(), argv + 1, argv + argc);
-    std::vector<char*> arguments;
-    std::transform(defaults.begin(), defaults.end(), std::back_inserter(arguments),
-                   [](std::string& argument) { return argument.data(); });
-    int count = int(arguments.size());
-
-    benchmark::Initialize(&count, arguments.data());
-    if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) {
-        return 1;
+    if (std::find(m_pPhases->begin(), m_pPhases->end(), phase) == m_pPhases->end()) {
+        m_pPhases->push_back(phase);
     }
-    RatioReporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    reporter.PrintTable();
-    return 0;
+    m_costs[phase].push_back(cost);
+}
+
+double Ledger::Median(const std::string& phase) const
+{
+    const auto found = m_costs.find(phase);
+    if (found == m_costs.end()) {
+        return 0.0;
+    }
+    std::vector<double> costs = found->second;
+    const auto middle = costs.begin() + std::ptrdiff_t(costs.size() / 2);
+    std::nth_element(costs.begin(), middle, costs.end());
+    return *middle;
+}
+
+void Comparison::Add(const Comparison& comparison)
+{
+    Registry().push_back(comparison);
+}
+
+const std::vector<Comparison>& Comparison::All()
+{
+    return Registry();
+}
+
+void Comparison::SetQuick()
+{
+    g_bQuick = true;
+}
+
+bool Comparison::IsQuick()
+{
+    return g_bQuick;
+}
+
+std::vector<Line> Comparison::Run() const
+{
+    std::vector<std::string> phases;
+    std::vector<std::string> ignored;
+    std::vector<Ledger> ledgers;
+    for (int variant = 0; variant < VariantCount; ++variant) {
+        const std::string name = strControl + '/' + kVariantNames[variant];
+        ledgers.emplace_back(name, &phases);
+        if (rounds[variant] && !g_bQuick) {
+            // The first of its kind fills caches and loads pictures.
+            Ledger first(name, &ignored);
+            rounds[variant](first);
+        }
+    }
+    QElapsedTimer timer;
+    timer.start();
+    const auto isDone = [&](int round) {
+        if (g_bQuick || Meter::CountsInstructions()) {
+            return round >= 1;
+        }
+        if (iRounds > 0) {
+            return round >= iRounds;
+        }
+        return round >= kMostRounds || (round >= kFewestRounds && timer.elapsed() >= kMilliseconds);
+    };
+    for (int round = 0; !isDone(round); ++round) {
+        for (int variant = 0; variant < VariantCount; ++variant) {
+            if (rounds[variant]) {
+                rounds[variant](ledgers[std::size_t(variant)]);
+            }
+        }
+    }
+
+    std::vector<Line> lines;
+    for (const std::string& phase : phases) {
+        Line line;
+        line.strControl = strControl;
+        line.strPhase = phase;
+        line.dGoal = Goal(*this, phase);
+        for (int variant = 0; variant < VariantCount; ++variant) {
+            const double cost = ledgers[std::size_t(variant)].Median(phase);
+            (Meter::CountsInstructions() ? line.dInstructions : line.dCosts)[variant] = cost;
+        }
+        lines.push_back(line);
+    }
+    return lines;
 }

@@ -1,57 +1,83 @@
 #pragma once
 
-#include <benchmark/benchmark.h>
-
 #include <functional>
+#include <map>
 #include <string>
+#include <vector>
+
+/** The three that are compared. */
+enum Variant
+{
+    VariantOurs,     ///< the control of this library
+    VariantSameLook, ///< the toolkit's counterpart, which wears the same look by style sheet; the goal is about this
+                     ///< one
+    VariantPlain,    ///< the counterpart as it comes, for the record
+    VariantCount
+};
+
+/** Costs of one variant's phases, in the order in which they were measured first. */
+class Ledger
+{
+public:
+    Ledger(std::string name, std::vector<std::string>* phases)
+        : m_strName(std::move(name))
+        , m_pPhases(phases)
+    {}
+
+    /** Does the work so many times, books what one of them costs and returns it. */
+    double Measure(const std::string& phase, const std::function<void()>& work, int times = 1);
+
+    /** Books a cost that was found by other means, or what each of so many entries had of it. */
+    void Book(const std::string& phase, double cost);
+
+    double Median(const std::string& phase) const;
+
+private:
+    std::string m_strName;
+    std::vector<std::string>* m_pPhases;
+    std::map<std::string, std::vector<double>> m_costs;
+};
+
+/** One phase of a comparison, as the table and the JSON show it. */
+struct Line
+{
+    std::string strControl;
+    std::string strPhase;
+    double dGoal = 0.0; ///< the highest ratio to the same look that is wanted, 0 for none
+    double dCosts[VariantCount] = {};
+    double dInstructions[VariantCount] = {};
+};
 
 /**
- * One line of the table of ratios: a control beside what a host would otherwise use.
- *
- * Each variant is a benchmark of its own; the program runs them in random order, several times, and divides medians.
- * Make one at namespace scope in the source of a family:
+ * A control beside its counterpart. A round does the same with each variant, one right after the other, so that what
+ * else the machine does falls on all of them; rounds are repeated, and medians compared.
  *
  * @code
- * const Comparison hover = Comparison("button: hover in and out")
- *                              .Ours([](benchmark::State& state) { ... })
- *                              .SameLook([](benchmark::State& state) { ... })
- *                              .Plain([](benchmark::State& state) { ... })
- *                              .Goal(2.0);
+ * Comparison::Add({"button", "QPushButton", LifeOf(ours), LifeOf(sameLook), LifeOf(plain)});
  * @endcode
  */
 class Comparison
 {
 public:
-    using Run = std::function<void(benchmark::State&)>;
+    using Round = std::function<void(Ledger&)>;
 
-    explicit Comparison(std::string name);
+    std::string strControl;
+    std::string strCounterpart;
+    Round rounds[VariantCount] = {};
+    /** Goals that differ from those which hold for a phase of this name everywhere. */
+    std::map<std::string, double> goals = {};
+    /** Instead of the usual number of rounds. */
+    int iRounds = 0;
+    /** Whether an executed instruction says anything about it. */
+    bool bCountable = true;
 
-    /** The control of this library. */
-    Comparison& Ours(Run run);
-    /** The counterpart that wears the same look by style sheet; the goal is about this one. */
-    Comparison& SameLook(Run run);
-    /** The counterpart as it comes, for the record. */
-    Comparison& Plain(Run run);
-    /** The highest ratio to SameLook (for growth, to the small case) that is wanted. */
-    Comparison& Goal(double ratio);
+    static void Add(const Comparison& comparison);
+    static const std::vector<Comparison>& All();
 
-    /**
-     * How the cost of one entry grows: @p fill adds entries to a fresh object and returns the seconds that it took; the
-     * line compares one entry's share at @p large with that at @p small.
-     */
-    Comparison& Growth(const std::function<double(int entries)>& fill, int small, int large);
+    /** One round for each, to see that everything runs. */
+    static void SetQuick();
+    static bool IsQuick();
 
-    /**
-     * For what a clock doesn't show: each function does its work once and returns the seconds to be counted, such as
-     * the processor time that a second of waiting takes.
-     */
-    Comparison& Counted(const std::function<double()>& ours, const std::function<double()>& sameLook);
-
-    /** Runs all of them and prints the table; arguments are those of the benchmark library. */
-    static int Main(int argc, char** argv);
-
-private:
-    void Register(const char* variant, Run run, int countedIterations) const;
-
-    std::string m_strName;
+    /** Runs all rounds and returns the lines. */
+    std::vector<Line> Run() const;
 };
