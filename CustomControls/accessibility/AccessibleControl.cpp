@@ -20,6 +20,21 @@ QString WithoutMnemonic(const QString& text)
     return plain;
 }
 
+void (*s_listener)(QAccessibleEvent*) = nullptr;
+
+bool IsHeard()
+{
+    return s_listener || QAccessible::isActive();
+}
+
+void Tell(QAccessibleEvent* event)
+{
+    if (s_listener) {
+        s_listener(event);
+    }
+    QAccessible::updateAccessibility(event);
+}
+
 } // namespace
 
 AccessibleControl::AccessibleControl(QWidget* control, QAccessible::Role role)
@@ -120,6 +135,11 @@ QString SpokenCaption(const QString& text)
     return SpokenText(WithoutMnemonic(text));
 }
 
+void SetTellListener(void (*listener)(QAccessibleEvent*))
+{
+    s_listener = listener;
+}
+
 void TellNameChanged(QWidget* control)
 {
     TellEvent(control, QAccessible::NameChanged);
@@ -127,18 +147,18 @@ void TellNameChanged(QWidget* control)
 
 void TellCheckedChanged(QWidget* control)
 {
-    if (QAccessible::isActive()) {
+    if (IsHeard()) {
         QAccessible::State changed;
         changed.checked = true;
         QAccessibleStateChangeEvent event(control, changed);
-        QAccessible::updateAccessibility(&event);
+        Tell(&event);
     }
 }
 
 void TellEvent(QWidget* control, QAccessible::Event type)
 {
-    if (QAccessible::isActive()) {
+    if (IsHeard()) {
         QAccessibleEvent event(control, type);
-        QAccessible::updateAccessibility(&event);
+        Tell(&event);
     }
 }

@@ -37,6 +37,10 @@ QString SpokenText(const QString& text);
 /** The same of a text in which an ampersand marks a key. */
 QString SpokenCaption(const QString& text);
 
+/** Hears what is told of the controls even while no assistive technology is active, as tests need it; null for nobody.
+ */
+void SetTellListener(void (*listener)(QAccessibleEvent*));
+
 /** Tells that what is told of a control as its name has changed. Costs nothing while nobody listens. */
 void TellNameChanged(QWidget* control);
 /** Tells that a control was checked or chosen, or is not any more. */

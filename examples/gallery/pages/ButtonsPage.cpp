@@ -41,6 +41,7 @@ void SetTextImage(CVelmarButton* button, const char* icon)
 /** A button over its caption, both centred. */
 QVBoxLayout* WithCaption(QWidget* button, QLabel* caption)
 {
+    caption->setBuddy(button); // names a button that bears no words, for a screen reader
     auto* layout = new QVBoxLayout;
     layout->setSpacing(6);
     layout->addStretch(1);

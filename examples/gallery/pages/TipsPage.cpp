@@ -19,6 +19,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTextBrowser>
+#include <QTextDocumentFragment>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -124,6 +125,7 @@ void TipsPage::AddToolBar()
         button->setStyleSheet(QLatin1String(ToolSheet));
         button->setCursor(Qt::PointingHandCursor);
         button->setToolTip(tool.tip);
+        button->setAccessibleName(QTextDocumentFragment::fromHtml(tool.tip).toPlainText().simplified());
         button->installEventFilter(m_pFilter);
         connect(button, &QPushButton::clicked, this,
                 [this, button] { m_pOutcome->setText(tr("点击：%1").arg(button->objectName())); });

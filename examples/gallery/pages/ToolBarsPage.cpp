@@ -105,6 +105,7 @@ void ToolBarsPage::AddBars()
     bench->setFixedHeight(BenchHeight);
     auto* view = new WorkView;
     view->setObjectName(QStringLiteral("toolBarView"));
+    view->setAccessibleName(tr("工具栏"));
     bench->setCentralWidget(view);
     bench->addToolBar(CreateSides(bench, view));
     bench->addToolBarBreak();

@@ -17,7 +17,6 @@
 #include <QAbstractItemView>
 #include <QPointer>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QSet>
 #include <QTimer>
 
@@ -36,14 +35,20 @@ bool IsOfUse(QAccessible::Role role)
     return roles.contains(role);
 }
 
-/** What the toolkit makes for itself inside a control that is told already: its scroll bars, its spin box's field. */
+/** What the toolkit makes for itself inside a control that is told already: scroll bars, a field's icons and the like.
+ */
 bool IsToolkitsOwn(const QObject* object)
 {
-    if (!object) {
-        return false;
-    }
-    const bool scrollArea = qobject_cast<const QScrollArea*>(object) != nullptr;
-    return object->objectName().startsWith(QLatin1String("qt_")) || scrollArea;
+    return object && (object->objectName().startsWith(QLatin1String("qt_")) ||
+                      object->inherits("QLineEditIconButton") || object->inherits("QScrollArea"));
+}
+
+/** Panels and menus that take the focus from a click alone are used through what they hold. */
+bool IsReachedByTab(const QObject* object)
+{
+    const auto* widget = qobject_cast<const QWidget*>(object);
+    // What hands the focus on to a part of itself is used through that part.
+    return widget && widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus) && !widget->focusProxy();
 }
 
 QString Describe(QAccessibleInterface* accessible)
@@ -86,14 +91,13 @@ private:
 
     void Check(QAccessibleInterface* accessible)
     {
-        const QAccessible::State state = accessible->state();
         QAccessibleActionInterface* actions = accessible->actionInterface();
         QStringList names = actions ? actions->actionNames() : QStringList();
         names.removeAll(QAccessibleActionInterface::setFocusAction());
         const QAccessible::Role role = accessible->role();
-        const bool window = role == QAccessible::Dialog || role == QAccessible::Window;
-        if (window || IsToolkitsOwn(accessible->object()) || role == QAccessible::ScrollBar ||
-            (!state.focusable && names.isEmpty() && !IsOfUse(role))) {
+        if (role == QAccessible::Dialog || role == QAccessible::Window || role == QAccessible::ScrollBar ||
+            IsToolkitsOwn(accessible->object()) ||
+            (!IsReachedByTab(accessible->object()) && names.isEmpty() && !IsOfUse(role))) {
             return;
         }
         ++m_iInteractive;
@@ -166,6 +170,9 @@ private Q_SLOTS:
         const QList<CCustomMenu*> menus = window.findChildren<CCustomMenu*>();
         for (CCustomMenu* menu : menus) {
             menu->show();
+            if (!menu->isVisible()) {
+                continue; // of a page that is not the one in front
+            }
             Walk rows(menu);
             VERIFY_WALK(rows);
             QVERIFY(rows.m_iInteractive > 0 || menu->MenuButtonCount() == 0);

@@ -7,6 +7,7 @@
 #include <CustomControls/buttons/CVelmarButton.h>
 
 #include <tests/support/Accessible.h>
+#include <tests/support/AccessibleEvents.h>
 #include <tests/support/TestMain.h>
 
 #include <QDialog>
@@ -126,7 +127,7 @@ private Q_SLOTS:
         CVelmarButton button(ButtonTypeText, false, true, 0, nullptr);
         AccessibleEvents events;
         button.SetButtonText(QStringLiteral("暂停"), false);
-        QVERIFY(events.Count(&button, QAccessible::NameChanged) >= 1);
+        QCOMPARE(events.Count(&button, QAccessible::NameChanged), 1);
     }
 
     void aHostsSubclassHasTheSameInterface()
@@ -192,11 +193,9 @@ private Q_SLOTS:
         QCOMPARE(AccessibleName(&tile), QStringLiteral("平面"));
         QVERIFY(Actions(&tile).contains(kToggle));
         QSignalSpy spy(&tile, &QAbstractButton::toggled);
-        AccessibleEvents events;
         Act(&tile, kToggle);
         QCOMPARE(spy.count(), 1);
         QVERIFY(Accessible(&tile)->state().checked);
-        QVERIFY(events.Count(&tile, QAccessible::StateChanged) >= 1);
         tile.setAutoExclusive(true);
         QCOMPARE(Accessible(&tile)->role(), QAccessible::RadioButton);
     }
@@ -301,6 +300,7 @@ private Q_SLOTS:
         auto* tile = new CIconButton(&window);
         window.show();
         QVERIFY(QTest::qWaitForWindowActive(&window));
+        tile->clearFocus();
         tile->setFocus(Qt::TabFocusReason);
         QVERIFY(KeyboardFocus::IsShownOn(tile));
         delete tile;

@@ -6,6 +6,7 @@
 #include <CustomControls/menus/CVelmarMenuItem.h>
 
 #include <tests/support/Accessible.h>
+#include <tests/support/AccessibleEvents.h>
 #include <tests/support/TestMain.h>
 
 #include <QLabel>
@@ -442,7 +443,8 @@ private Q_SLOTS:
         Stage stage(4);
         stage.box->showPopup();
         Act(stage.box->m_pMenu->MenuButton(3), PressAction());
-        QCOMPARE(stage.box->currentIndex(), 3);
+        // The toolkit shows the button pressed for a moment.
+        QTRY_COMPARE(stage.box->currentIndex(), 3);
         QVERIFY(!stage.box->m_pMenu->isVisible());
     }
 };

@@ -2,6 +2,7 @@
 
 #include "RunningBox.h"
 #include <tests/support/Accessible.h>
+#include <tests/support/AccessibleEvents.h>
 #include <tests/support/TestMain.h>
 
 #include <QCheckBox>
