@@ -103,7 +103,7 @@ std::vector<Line> Comparison::Run() const
     for (int variant = 0; variant < VariantCount; ++variant) {
         const std::string name = strControl + '/' + kVariantNames[variant];
         ledgers.emplace_back(name, &phases);
-        if (rounds[variant] && !g_bQuick) {
+        if (rounds[variant] && !g_bQuick && bWarmsUp) {
             // The first of its kind fills caches and loads pictures.
             Ledger first(name, &ignored);
             rounds[variant](first);

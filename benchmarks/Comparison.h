@@ -68,6 +68,8 @@ public:
     std::map<std::string, double> goals = {};
     /** Instead of the usual number of rounds. */
     int iRounds = 0;
+    /** A round before the others, which doesn't count. */
+    bool bWarmsUp = true;
     /** Whether an executed instruction says anything about it. */
     bool bCountable = true;
 

@@ -17,7 +17,7 @@ namespace {
 
 constexpr QRect kFieldPlace(20, 20, 240, 34);
 constexpr QRect kViewPlace(20, 20, 500, 300);
-constexpr QSize kAddressSize(340, 104);
+constexpr QSize kAddressSize(340, 90);
 constexpr int kLines = 200;
 
 const QString kName = QStringLiteral("长度：");
@@ -26,12 +26,12 @@ const QString kUnit = QStringLiteral("mm");
 constexpr char kFieldLook[] =
     "#field{background:rgb(246,246,246);}#field QLabel{color:rgb(0,0,0);}#field #unit{color:rgb(140,151,156);}"
     "#frame{background-color:rgb(255,255,255);border:1px solid rgb(196,196,196);border-radius:3px;}"
-    "QLineEdit{border:none;background-color:rgb(255,255,255);color:rgb(0,0,0);}";
+    "QDoubleSpinBox{border:none;background-color:rgb(255,255,255);color:rgb(0,0,0);}";
 constexpr char kViewLook[] = "QAbstractScrollArea{background:#ffffff;border:1px solid #c4c4c4;color:#333333;}";
 constexpr char kAddressLook[] = "#address{background:#ffffff;border:1px solid #bbbbbb;border-radius:4px;}"
                                 "QLineEdit{border:1px solid #c4c4c4;border-radius:3px;background:#f6f6f6;}";
 
-// What a host would put together from the toolkit: a caption, a line to type in, a unit.
+// What a host would put together from the toolkit: a caption, a number to type in, a unit.
 QWidget* Field(QWidget* parent, const char* sheet)
 {
     auto* field = new QWidget(parent);
@@ -40,8 +40,11 @@ QWidget* Field(QWidget* parent, const char* sheet)
     name->setFont(FontCn_14);
     auto* frame = new QWidget;
     frame->setObjectName(QStringLiteral("frame"));
-    auto* edit = new QLineEdit(QStringLiteral("10"));
-    edit->setFont(FontCn_14);
+    auto* edit = new QDoubleSpinBox;
+    edit->setButtonSymbols(QAbstractSpinBox::NoButtons);
+    edit->setMaximum(1000.0);
+    edit->setValue(10.0);
+    edit->setFont(FontCnMedium_14);
     auto* unit = new QLabel(kUnit);
     unit->setObjectName(QStringLiteral("unit"));
     auto* inner = new QHBoxLayout(frame);
@@ -61,7 +64,7 @@ QWidget* Field(QWidget* parent, const char* sheet)
 
 void AddNumberField()
 {
-    Cast cast{"number field", "QLabel, QLineEdit and QLabel"};
+    Cast cast{"number field", "QLabel, QDoubleSpinBox and QLabel"};
     cast.subjects[VariantOurs].make = [](QWidget* parent) {
         auto* field = new CTextEdit(parent, kName, QStringLiteral("10"), kUnit, 120);
         field->setGeometry(kFieldPlace);
@@ -74,7 +77,7 @@ void AddNumberField()
     cast.subjects[VariantPlain].make = [](QWidget* parent) { return Field(parent, nullptr); };
     for (Subject* subject : {&cast.subjects[VariantSameLook], &cast.subjects[VariantPlain]}) {
         subject->change = [](QWidget* widget, bool on) {
-            widget->findChild<QLineEdit*>()->setText(QString::number(on ? 20 : 10));
+            widget->findChild<QDoubleSpinBox*>()->setValue(on ? 20.0 : 10.0);
         };
     }
     Life::AddComparisons(cast);
@@ -85,6 +88,7 @@ QWidget* Address(QWidget* parent, const char* sheet)
     auto* box = new QWidget(parent, Qt::Window | Qt::FramelessWindowHint);
     box->setObjectName(QStringLiteral("address"));
     box->setAttribute(Qt::WA_StyledBackground);
+    box->setFixedSize(kAddressSize);
     auto* layout = new QVBoxLayout(box);
     auto* title = new QLabel(QStringLiteral("输入 IP 地址"));
     title->setFont(FontCn_14);
@@ -93,7 +97,6 @@ QWidget* Address(QWidget* parent, const char* sheet)
     if (sheet) {
         box->setStyleSheet(QLatin1String(sheet));
     }
-    box->resize(kAddressSize);
     return box;
 }
 

@@ -67,7 +67,7 @@ void WaitWithBox(Ledger& ledger)
 
 void AddWaiting(const char* name, const Comparison::Round& ours)
 {
-    Comparison::Add({name, "the bare animation", {ours, WaitWithAnimation, nullptr}, {}, kWaitRounds, false});
+    Comparison::Add({name, "the bare animation", {ours, WaitWithAnimation, nullptr}, {}, kWaitRounds, false, false});
 }
 
 } // namespace

@@ -12,6 +12,8 @@
 #include <QStandardItemModel>
 #include <QTableView>
 
+#include <iterator>
+
 namespace {
 
 enum Column
@@ -29,7 +31,14 @@ constexpr int kRowHeight = 36;
 constexpr QSize kTableSize(352, 248);
 constexpr QRect kBarPlace(20, 20, 396, 24);
 
-const QString kPicture = QStringLiteral(":/icon/selectbox/tool/img_home_tool_qiudao.png");
+// The pictures of the first six types, as the tool table shows them.
+const char* const kPictures[] = {"jiaodao", "pingdixidao", "ptxd_bk", "qiudao", "qiudao_bk", "yuanbixidao"};
+
+QString Picture(int row)
+{
+    return QStringLiteral(":/icon/selectbox/tool/img_home_tool_%1.png")
+        .arg(QLatin1String(kPictures[std::size_t(row) % std::size(kPictures)]));
+}
 
 constexpr char kLook[] = "QTableView{outline:none;border:none;background-color:rgb(239,239,239);"
                          "alternate-background-color:rgb(246,246,246);selection-background-color:white;}"
@@ -46,7 +55,7 @@ void AddTools(QWidget* widget, int first, int count)
     auto* model = static_cast<QStandardItemModel*>(static_cast<QTableView*>(widget)->model());
     for (int row = first; row < first + count; ++row) {
         auto* number = new QStandardItem(QString::number(row + 1));
-        auto* type = new QStandardItem(QIcon(kPicture), QStringLiteral("球头刀"));
+        auto* type = new QStandardItem(QIcon(Picture(row)), QStringLiteral("球头刀"));
         auto* diameter = new QStandardItem(QStringLiteral("⌀4"));
         auto* length = new QStandardItem(QStringLiteral("50"));
         for (QStandardItem* item : {number, type, diameter, length}) {

@@ -93,7 +93,7 @@ const AccessibleFactory::Registration<CProgressWidget, CProgressWidgetAccessible
 } // namespace
 
 CProgressWidget::CProgressWidget(QWidget* parent)
-    : QWidget(parent)
+    : QWidget(parent, Qt::Dialog | Qt::FramelessWindowHint) // flags that come after the form have its sheets read anew
     , ui(new Ui::CProgressWidget)
     , m_pTimerAuto(new QTimer(this))
     , m_pTimerEllipsis(new QTimer(this))
@@ -103,7 +103,6 @@ CProgressWidget::CProgressWidget(QWidget* parent)
 {
     ui->setupUi(this);
     setWindowModality(Qt::ApplicationModal);
-    setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
     setAttribute(Qt::WA_TranslucentBackground);
 
     connect(m_pTimerEllipsis, &QTimer::timeout, this, &CProgressWidget::updateEllipsis);

@@ -37,12 +37,11 @@ const AccessibleFactory::Registration<CSelectMachineIPLineEdit, CSelectMachineIP
 } // namespace
 
 CSelectMachineIPLineEdit::CSelectMachineIPLineEdit(QWidget* parent)
-    : QWidget(parent)
+    : QWidget(parent, Qt::Dialog | Qt::FramelessWindowHint) // flags that come after the form have its sheets read anew
     , ui(new Ui::CSelectMachineIPLineEdit)
 {
     ui->setupUi(this);
     setAttribute(Qt::WA_StyledBackground, true);
-    setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
     ui->titleLabel->setFont(FontCnMedium_14);
     ui->lineEdit->setFont(FontCn_14);
     ui->titleLabel->adjustSize();
