@@ -191,7 +191,6 @@ void BenchmarksRunTest::listsAreOpened()
 {
     QFETCH(QString, control);
     const QStringList phases = PhasesOf(control);
-    QVERIFY(phases.contains(QStringLiteral("first opening")));
     QVERIFY(phases.contains(QStringLiteral("open")));
     QVERIFY(phases.contains(QStringLiteral("close")));
 }

@@ -25,7 +25,6 @@ struct Growth
     int iTimes;
 };
 constexpr Growth kGrowths[] = {{10, 10}, {100, 4}, {1000, 1}, {10000, 1}};
-constexpr int kMostCountedEntries = 1000;
 constexpr int kQuickEntries = 100;
 constexpr int kGrowthRounds = 2;
 
@@ -188,11 +187,8 @@ Comparison::Round GrowthOf(const Cast& cast, const Subject& subject)
 {
     return [cast, subject](Ledger& ledger) {
         for (const Growth& growth : kGrowths) {
-            const int times = Comparison::IsQuick() || Meter::CountsInstructions() ? 1 : growth.iTimes;
-            const int most = Comparison::IsQuick()         ? kQuickEntries
-                             : Meter::CountsInstructions() ? kMostCountedEntries
-                                                           : growth.iEntries;
-            if (growth.iEntries > most) {
+            const int times = Comparison::IsQuick() ? 1 : growth.iTimes;
+            if (Comparison::IsQuick() && growth.iEntries > kQuickEntries) {
                 break;
             }
             const std::string phase = "entry of " + std::to_string(growth.iEntries);
@@ -231,7 +227,7 @@ void Life::AddComparisons(const Cast& cast)
     }
     Comparison life{cast.strControl, cast.strCounterpart, {}, cast.goals};
     Comparison memory{cast.strControl, cast.strCounterpart, {}, cast.goals, 1, false, false};
-    Comparison growth{cast.strControl, cast.strCounterpart, {}, cast.goals, kGrowthRounds, false};
+    Comparison growth{cast.strControl, cast.strCounterpart, {}, cast.goals, kGrowthRounds, false, false};
     bool grows = false;
     for (int variant = 0; variant < VariantCount; ++variant) {
         const Subject& subject = cast.subjects[variant];
@@ -240,8 +236,7 @@ void Life::AddComparisons(const Cast& cast)
         }
         life.rounds[variant] = LifeOf(cast, subject);
         memory.rounds[variant] = MemoryOf(cast, subject);
-        // Counting takes fifty times as long, and what the toolkit's lists cost per entry is known.
-        if (subject.fill && (variant == VariantOurs || !Meter::CountsInstructions())) {
+        if (subject.fill) {
             growth.rounds[variant] = GrowthOf(cast, subject);
             grows = true;
         }
