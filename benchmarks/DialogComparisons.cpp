@@ -17,6 +17,7 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QMessageBox>
+#include <QMovie>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QTableWidget>
@@ -166,6 +167,12 @@ QWidget* ToolkitProgress(const char* sheet)
     dialog->setMinimumWidth(580);
     if (sheet) {
         dialog->setStyleSheet(QLatin1String(sheet));
+        // The house dialog shows an animation beside its text.
+        auto* animation = new QLabel(dialog);
+        auto* movie = new QMovie(QStringLiteral(":/icon/gif_pop_bac.gif"), {}, animation);
+        animation->setMovie(movie);
+        movie->start();
+        animation->move(8, 8);
     }
     return dialog;
 }

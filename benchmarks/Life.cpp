@@ -24,9 +24,9 @@ struct Growth
     int iEntries;
     int iTimes;
 };
-constexpr Growth kGrowths[] = {{10, 10}, {100, 4}, {1000, 1}, {10000, 1}};
+constexpr Growth kGrowths[] = {{10, 20}, {100, 8}, {1000, 2}, {10000, 1}};
 constexpr int kQuickEntries = 100;
-constexpr int kGrowthRounds = 2;
+constexpr int kGrowthRounds = 1;
 
 std::vector<Cast>& Registry()
 {
