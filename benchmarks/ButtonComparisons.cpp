@@ -98,6 +98,44 @@ void Hover(QWidget* widget, bool on)
     }
 }
 
+// Wears each look as a whole sheet of its own, as our labels do, instead of one sheet with a rule for each state.
+class RestyledButton : public QPushButton
+{
+public:
+    RestyledButton(QWidget* parent, bool withIcon)
+        : QPushButton(kText, parent)
+        , m_bWithIcon(withIcon)
+    {
+        setFont(FontCn_14);
+        setIconSize(QSize(16, 16));
+        setGeometry(kPlace);
+        Wear("rgb(230,230,230)", "rgb(102,102,102)", kNormalIcon);
+    }
+
+protected:
+    void enterEvent(QEnterEvent* event) override
+    {
+        Wear("rgb(194,211,231)", "rgb(50,50,50)", kHoverIcon);
+        QPushButton::enterEvent(event);
+    }
+
+    void leaveEvent(QEvent* event) override
+    {
+        Wear("rgb(230,230,230)", "rgb(102,102,102)", kNormalIcon);
+        QPushButton::leaveEvent(event);
+    }
+
+private:
+    void Wear(const char* background, const char* text, const char* icon)
+    {
+        const QString sheet = QStringLiteral("border:none;border-radius:4px;background-color:%1;color:%2;%3");
+        setStyleSheet(sheet.arg(QLatin1String(background), QLatin1String(text),
+                                m_bWithIcon ? QStringLiteral("icon:%1;").arg(QLatin1String(icon)) : QString()));
+    }
+
+    bool m_bWithIcon;
+};
+
 void Check(QWidget* widget, bool on)
 {
     static_cast<QAbstractButton*>(widget)->setChecked(on);
@@ -116,6 +154,15 @@ void AddThemedButton(const char* name, bool withIcon)
         subject.change = Hover;
     }
     Life::AddComparisons(cast);
+
+    // What is left beside a button that pays the same for its looks.
+    Cast restyled{std::string(name) + ", each look a sheet", "QPushButton"};
+    restyled.subjects[VariantOurs] = cast.subjects[VariantOurs];
+    restyled.subjects[VariantSameLook].make = [withIcon](QWidget* parent) {
+        return new RestyledButton(parent, withIcon);
+    };
+    restyled.subjects[VariantSameLook].change = Hover;
+    Life::AddComparisons(restyled);
 }
 
 template <typename Button>

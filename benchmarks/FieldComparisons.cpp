@@ -28,8 +28,9 @@ constexpr char kFieldLook[] =
     "#frame{background-color:rgb(255,255,255);border:1px solid rgb(196,196,196);border-radius:3px;}"
     "QDoubleSpinBox{border:none;background-color:rgb(255,255,255);color:rgb(0,0,0);}";
 constexpr char kViewLook[] = "QAbstractScrollArea{background:#ffffff;border:1px solid #c4c4c4;color:#333333;}";
-constexpr char kAddressLook[] = "#address{background:#ffffff;border:1px solid #bbbbbb;border-radius:4px;}"
-                                "QLineEdit{border:1px solid #c4c4c4;border-radius:3px;background:#f6f6f6;}";
+constexpr char kAddressLook[] =
+    "#address{background:#ffffff;border:1px solid #bbbbbb;border-radius:4px;}"
+    "QLineEdit{border:1px solid #cccccc;border-radius:4px;padding:6px 10px;color:#333333;background-color:#ffffff;}";
 
 // What a host would put together from the toolkit: a caption, a number to type in, a unit.
 QWidget* Field(QWidget* parent, const char* sheet)
@@ -93,7 +94,10 @@ QWidget* Address(QWidget* parent, const char* sheet)
     auto* title = new QLabel(QStringLiteral("输入 IP 地址"));
     title->setFont(FontCn_14);
     layout->addWidget(title);
-    layout->addWidget(new QLineEdit);
+    auto* edit = new QLineEdit;
+    edit->setFont(FontCn_14);
+    edit->setPlaceholderText(QStringLiteral("192.168.0.100"));
+    layout->addWidget(edit);
     if (sheet) {
         box->setStyleSheet(QLatin1String(sheet));
     }

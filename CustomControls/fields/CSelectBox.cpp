@@ -25,8 +25,8 @@ CSelectBox::CSelectBox(QString text, bool checked, QString hintText, QWidget* pa
     : QWidget(parent)
     , ui(new Ui::CSelectBox)
 {
+    setStyleSheet(kBoxSheet); // before the form, whose sheets would be read anew
     ui->setupUi(this);
-    setStyleSheet(kBoxSheet);
     ui->labelBox->setFont(FontCnMedium_14);
     ui->hintButton->setFont(FontCn_12);
     SetText(text);
