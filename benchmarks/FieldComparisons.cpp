@@ -96,7 +96,7 @@ QWidget* Address(QWidget* parent, const char* sheet)
     layout->addWidget(title);
     auto* edit = new QLineEdit;
     edit->setFont(FontCn_14);
-    edit->setPlaceholderText(QStringLiteral("192.168.0.100"));
+    edit->setPlaceholderText(QStringLiteral("请输入IPv4地址"));
     layout->addWidget(edit);
     if (sheet) {
         box->setStyleSheet(QLatin1String(sheet));
