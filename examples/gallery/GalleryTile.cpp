@@ -7,6 +7,7 @@
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
+#include <QPixmap>
 #include <QVBoxLayout>
 
 namespace {
@@ -37,7 +38,9 @@ GalleryTile::GalleryTile(const QString& objectName, const QString& picture, cons
         auto* image = new QLabel;
         image->setFixedSize(PictureSize, PictureSize);
         image->setAlignment(Qt::AlignCenter);
-        image->setPixmap(QIcon(picture).pixmap(PictureSize, PictureSize));
+        // In its own size: asked for a larger one, an icon gives its large twin, which would then lie about its ratio.
+        const QSize own = QPixmap(picture).deviceIndependentSize().toSize();
+        image->setPixmap(QIcon(picture).pixmap(own.boundedTo(QSize(PictureSize, PictureSize))));
         layout->addWidget(image);
     }
     auto* texts = new QVBoxLayout;

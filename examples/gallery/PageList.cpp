@@ -16,7 +16,7 @@
 
 namespace {
 constexpr int ListWidth = 208;
-constexpr int SearchHeight = 34;
+constexpr int SearchHeight = 32; // from 34 on the toolkit would draw the icons at 32
 constexpr int RowHeight = 44;
 constexpr auto ColumnSheet = "#pageColumn{background:#f6f6f6;border-right:1px solid #e2e2e2;}";
 constexpr auto SearchSheet = "#pageSearch{background:#ffffff;border:1px solid #d5d5d5;border-radius:6px;"

@@ -17,6 +17,7 @@
 #include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPixmap>
 #include <QPushButton>
 #include <QTextBrowser>
 #include <QTextDocumentFragment>
@@ -121,7 +122,9 @@ void TipsPage::AddToolBar()
         button->setObjectName(QLatin1String(tool.name));
         button->setFixedSize(ToolSize, ToolSize);
         button->setIcon(QIcon(QLatin1String(tool.icon)));
-        button->setIconSize(QSize(ToolIconSize, ToolIconSize));
+        // In their own size, or their large twins would show at another one.
+        const QSize own = QPixmap(QLatin1String(tool.icon)).deviceIndependentSize().toSize();
+        button->setIconSize(own.boundedTo(QSize(ToolIconSize, ToolIconSize)));
         button->setStyleSheet(QLatin1String(ToolSheet));
         button->setCursor(Qt::PointingHandCursor);
         button->setToolTip(tool.tip);

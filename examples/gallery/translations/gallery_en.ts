@@ -1883,7 +1883,7 @@
     </message>
     <message>
         <source>移除</source>
-        <translation>Remove</translation>
+        <translation>Delete</translation>
     </message>
     <message>
         <source>生成刀路</source>
