@@ -79,6 +79,7 @@ GalleryWindow::GalleryWindow(const GalleryOptions& options, QWidget* parent)
     connect(m_pPageList, &PageList::SignalPageOpened, this, &GalleryWindow::ShowPage);
     connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, m_pPageList, &PageList::FocusSearch);
     m_pPageList->SetCurrentPage(0);
+    m_pPageList->setFocus();
 
     CVelmarMessageBox::SetMainWindow(this);
     CorvaneSignalHelper* helper = CorvaneSignalHelper::instance();

@@ -74,6 +74,7 @@ PageList::PageList(QWidget* parent)
     layout->addWidget(m_pList, 1);
     layout->addWidget(m_pNothing, 1);
     Retranslate();
+    setFocusProxy(m_pList);
 
     connect(m_pSearch, &QLineEdit::textChanged, this, &PageList::Search);
     connect(m_pClear, &QAction::triggered, m_pSearch, &QLineEdit::clear);

@@ -304,7 +304,7 @@ void ParametersPage::AddFunctions(CFunctionBtnWidget* strip, QListWidget* list)
         QColor hover;
     };
     const Function functions[] = {
-        {"stepRemove", "url(:/icon/icon_title_close_w.png)", QColor(0x55, 0x5b, 0x5e), QColor(0x2f, 0x33, 0x35),
+        {"stepRemove", "url(:/gallery/remove.png)", QColor(0x55, 0x5b, 0x5e), QColor(0x2f, 0x33, 0x35),
          QColor(0x65, 0x6c, 0x6f)},
         {"stepGenerate", "url(:/icon/simcontrol/ico_process_pop_start_g2.png)", QColor(0x18, 0x85, 0x53),
          QColor(0x12, 0x66, 0x41), QColor(0x2a, 0xb4, 0x75)},

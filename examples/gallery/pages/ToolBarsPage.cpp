@@ -29,9 +29,9 @@ constexpr auto SwitchSheet = "QToolButton{color:#666666;border:none;border-radiu
                              "QToolButton:hover{background:#e6ebe8;}"
                              "QToolButton:checked{color:#188553;background:#e4f2eb;}";
 
-QString Icon(const char* folder, const QString& name)
+QString Icon(const QString& name)
 {
-    return QStringLiteral(":/gallery/%1/%2.png").arg(QLatin1String(folder), name);
+    return QStringLiteral(":/gallery/view/%1.png").arg(name);
 }
 } // namespace
 
@@ -89,7 +89,7 @@ void ToolBarsPage::AddTabs()
     }
     connect(tabs, &QTabWidget::currentChanged, this,
             [this, tabs](int index) { m_pOutcome->setText(tr("标签页：%1").arg(tabs->tabText(index))); });
-    AddCard(tr("标签页"), tr("深色的标签，各占一份宽度；当前页与标签连成一体。"), QStringLiteral("tool-bar-tabs"))
+    AddCard(tr("标签页"), tr("深色的标签，文字从不缩写；当前页与标签连成一体。"), QStringLiteral("tool-bar-tabs"))
         ->addWidget(tabs);
 }
 //! [tool-bar-tabs]
@@ -121,10 +121,10 @@ CToolBarItem* ToolBarsPage::CreateSides(QMainWindow* bench, WorkView* view)
     auto* style = new CToolBarStyle(new QProxyStyle(QStringLiteral("Fusion")));
     style->setParent(block);
     block->setStyle(style);
-    block->AddItem(Icon("ribbon", QStringLiteral("stock_model")), tr("等轴测"), 0, QString());
-    block->AddItem(Icon("ribbon", QStringLiteral("stock_box")), tr("俯视"), 0, QString());
-    block->AddItemVertical({Icon("ribbon", QStringLiteral("mirror")), Icon("ribbon", QStringLiteral("align"))},
-                           {tr("前视"), tr("左视")}, {0, 0}, {QString(), QString()});
+    block->AddItem(Icon(QStringLiteral("isometric")), tr("等轴测"), 0, QString());
+    block->AddItem(Icon(QStringLiteral("top")), tr("俯视"), 0, QString());
+    block->AddItemVertical({Icon(QStringLiteral("front")), Icon(QStringLiteral("left"))}, {tr("前视"), tr("左视")},
+                           {0, 0}, {QString(), QString()});
     const WorkView::Side sides[] = {WorkView::SideIsometric, WorkView::SideTop, WorkView::SideFront,
                                     WorkView::SideLeft};
     const QList<CToolButton*> tools = block->CreateToolBlock(true);
@@ -160,8 +160,8 @@ CToolBar* ToolBarsPage::CreateSwitches(QMainWindow* bench, WorkView* view)
     for (const Switch& item : switches) {
         const QString name = QLatin1String(item.name);
         // Two looks: coloured while the part is shown, grey while it is hidden.
-        const QIcon icon = StatefulIcon::create(Icon("view", name + QStringLiteral("_on")),
-                                                Icon("view", name + QStringLiteral("_off")), SwitchIcon);
+        const QIcon icon =
+            StatefulIcon::create(Icon(name + QStringLiteral("_on")), Icon(name + QStringLiteral("_off")), SwitchIcon);
         QAction* action = bar->addAction(icon, item.text);
         action->setCheckable(true);
         action->setChecked(true);

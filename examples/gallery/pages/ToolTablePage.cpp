@@ -26,7 +26,8 @@ constexpr int EndMill = 1;
 constexpr int BallNoseMill = 3;
 constexpr int TaperedBallNoseMill = 7;
 constexpr int ChosenHeight = 3 * 35 + 2; // a row of titles and one for each table
-constexpr int ProgramRow = 34;
+constexpr int ProgramHead = 34;
+constexpr int ProgramRow = 26;
 constexpr int SizeWidth = 84;
 constexpr auto ChosenSheet = "#chosenTools{background:#f6f6f6;border:1px solid #e2e2e2;border-radius:4px;}";
 constexpr auto ProgramsSheet = "#programs{background:#ffffff;border:1px solid #e2e2e2;border-radius:4px;outline:none;"
@@ -125,6 +126,9 @@ void ToolTablePage::ShowChosen()
     auto* titles = new CVelmarMessageListItem(this);
     titles->SetIsHeader(true);
     m_pChosen->insertWidget(0, titles);
+    if (m_pRoughing->ChosenRow() < 0 && m_pFinishing->ChosenRow() < 0) {
+        m_pChosen->insertWidget(1, CreateCaption(tr("还没有选择刀具。")));
+    }
     const std::pair<const ToolTable*, MachiningType> tables[] = {{m_pRoughing, MachiningRough},
                                                                  {m_pFinishing, MachiningFinish}};
     for (const auto& [table, type] : tables) {
@@ -157,7 +161,7 @@ void ToolTablePage::AddPrograms()
     list->setAccessibleName(tr("待加工的程序"));
     list->setHeaderLabels({tr("文件"), tr("大小")});
     list->header()->setFont(FontCnMedium_13);
-    list->header()->setFixedHeight(ProgramRow);
+    list->header()->setFixedHeight(ProgramHead);
     list->header()->setStretchLastSection(false);
     list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     list->header()->setSectionResizeMode(1, QHeaderView::Fixed);
@@ -166,7 +170,7 @@ void ToolTablePage::AddPrograms()
     list->setSelectionMode(QAbstractItemView::NoSelection);
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    list->setFixedHeight(ProgramRow * (1 + int(std::size(programs))) + 2);
+    list->setFixedHeight(ProgramHead + ProgramRow * int(std::size(programs)) + 2);
     // Cut in the middle, where two names differ least: the revision at their end still shows.
     auto* names = new CFileNameDelegate(list);
     names->SetElideMode(Qt::ElideMiddle);

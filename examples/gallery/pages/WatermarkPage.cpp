@@ -8,6 +8,7 @@
 #include <CustomControls/feedback/CWatermarkWidget.h>
 
 #include <QApplication>
+#include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -18,6 +19,8 @@ constexpr int SpindleFrames = 12;
 constexpr int SpindleMs = 60;
 constexpr int ToolMs = 900;
 constexpr int PictureSize = 96;
+constexpr int PanelHeight = 168;
+constexpr auto PanelSheet = "#animationPanel{background:#f6f6f6;border-radius:6px;}";
 constexpr QSize PreviewSize(760, 480);
 
 /** The window of an internal build: the mark lies over all of it and follows it. */
@@ -156,17 +159,31 @@ void WatermarkPage::AddAnimations()
         {CreateAnimation(QStringLiteral("animationTools"), tools, ToolMs), tr("刀库轮播")},
     };
     auto* row = new QHBoxLayout;
-    row->setSpacing(32);
+    row->setSpacing(16);
+    QList<QHBoxLayout*> panels;
     for (const Example& example : examples) {
+        auto* panel = new QFrame;
+        panel->setObjectName(QStringLiteral("animationPanel"));
+        panel->setStyleSheet(QLatin1String(PanelSheet));
+        panel->setFixedHeight(PanelHeight);
         auto* column = new QVBoxLayout;
-        column->setSpacing(6);
+        column->setSpacing(8);
+        column->addStretch(1);
         column->addWidget(example.animation, 0, Qt::AlignHCenter);
         column->addWidget(CreateCaption(example.caption));
-        row->addLayout(column);
+        column->addStretch(1);
+        auto* middle = new QHBoxLayout(panel);
+        middle->setSpacing(40);
+        middle->addStretch(1);
+        middle->addLayout(column);
+        middle->addStretch(1);
+        panels.append(middle);
+        row->addWidget(panel, 1);
     }
     const QList<std::pair<QString, int>> speeds = {{tr("慢"), 200}, {tr("中"), 60}, {tr("快"), 25}};
     auto* commands = new QVBoxLayout;
     commands->setSpacing(6);
+    commands->addStretch(1);
     for (const auto& [text, interval] : speeds) {
         QPushButton* button = CreateCommand(text, QStringLiteral("spindle%1").arg(interval));
         button->setFixedWidth(96);
@@ -174,8 +191,8 @@ void WatermarkPage::AddAnimations()
                 [animation = examples[0].animation, interval = interval] { animation->SetShowIntervalTime(interval); });
         commands->addWidget(button);
     }
-    row->insertLayout(1, commands);
-    row->addStretch(1);
+    commands->addStretch(1);
+    panels.first()->insertLayout(2, commands);
     AddCard(tr("逐帧动画"), tr("图片按间隔逐张显示。"), QStringLiteral("animation"))->addLayout(row);
 }
 //! [animation]

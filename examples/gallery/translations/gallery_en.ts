@@ -396,6 +396,41 @@
     </message>
 </context>
 <context>
+    <name>CorvaneToolBitHelper</name>
+    <message>
+        <source>铰刀</source>
+        <translation>Reamer</translation>
+    </message>
+    <message>
+        <source>立铣刀</source>
+        <translation>End mill</translation>
+    </message>
+    <message>
+        <source>避空立铣刀</source>
+        <translation>Relieved mill</translation>
+    </message>
+    <message>
+        <source>球头铣刀</source>
+        <translation>Ball nose</translation>
+    </message>
+    <message>
+        <source>避空球头铣刀</source>
+        <translation>Relieved ball</translation>
+    </message>
+    <message>
+        <source>圆鼻铣刀</source>
+        <translation>Bull nose</translation>
+    </message>
+    <message>
+        <source>锥刀</source>
+        <translation>Engraver</translation>
+    </message>
+    <message>
+        <source>锥度球头铣刀</source>
+        <translation>Tapered ball</translation>
+    </message>
+</context>
+<context>
     <name>FramelessWindowsPage</name>
     <message>
         <source>还没有打开窗口。</source>
@@ -2569,10 +2604,6 @@ for the fourth axis</translation>
         <translation>Tabs</translation>
     </message>
     <message>
-        <source>深色的标签，各占一份宽度；当前页与标签连成一体。</source>
-        <translation>Dark tabs that share the width; the current one and its page are one.</translation>
-    </message>
-    <message>
         <source>工具栏</source>
         <translation>Tool bars</translation>
     </message>
@@ -2627,6 +2658,10 @@ for the fourth axis</translation>
     <message>
         <source>%1：隐藏</source>
         <translation>%1: hidden</translation>
+    </message>
+    <message>
+        <source>深色的标签，文字从不缩写；当前页与标签连成一体。</source>
+        <translation>Dark tabs that never shorten a caption; the current one and its page are one.</translation>
     </message>
 </context>
 <context>
@@ -2768,6 +2803,10 @@ for the fourth axis</translation>
     <message>
         <source>文件名放不下时省略中间，结尾的修订号仍然可见。</source>
         <translation>A name that has no room is cut in the middle; the revision at its end still shows.</translation>
+    </message>
+    <message>
+        <source>还没有选择刀具。</source>
+        <translation>No tool is chosen yet.</translation>
     </message>
 </context>
 <context>
