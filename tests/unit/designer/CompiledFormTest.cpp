@@ -3,8 +3,6 @@
 
 #include <tests/support/TestMain.h>
 
-#include <QRegularExpression>
-
 /** A form with one of each control, compiled by uic. */
 class CompiledFormTest : public QObject
 {
@@ -25,7 +23,7 @@ private Q_SLOTS:
 
 void CompiledFormTest::init()
 {
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+    FailOnWarning();
 }
 
 void CompiledFormTest::propertiesTakeEffect_data()

@@ -6,7 +6,13 @@
 
 #include <QFont>
 #include <QProgressBar>
+#include <QRegularExpression>
 #include <QTest>
+
+void FailOnWarning()
+{
+    QTest::failOnWarning(QRegularExpression(QStringLiteral("^(?!This plugin does not support propagateSizeHints)")));
+}
 
 void AddRowsOfEveryControl()
 {

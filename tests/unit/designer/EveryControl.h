@@ -2,6 +2,9 @@
 
 class QWidget;
 
+/** Has the test fail on any warning but the one that the offscreen platform gives for every window. */
+void FailOnWarning();
+
 /** Rows of a QTest table: what EveryControl.ui says of each control, as (object, class, property, value). */
 void AddRowsOfEveryControl();
 
