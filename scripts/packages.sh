@@ -2,7 +2,7 @@
 # Shared by the scripts beside it: which Debian packages a task needs, and how to bring in those that are missing.
 
 PACKAGES_BUILD=(g++ cmake ninja-build ccache qt6-base-dev qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
-                libgl1-mesa-dev libvulkan-dev libqt6opengl6-dev)
+                libgl1-mesa-dev libvulkan-dev libqt6opengl6-dev dpkg-dev file)
 PACKAGES_SHOW=(fonts-noto-cjk fonts-noto-core)
 PACKAGES_DISPLAY=(xvfb xauth openbox x11-utils xcompmgr xdotool)
 PACKAGES_WINDOWS=(g++-mingw-w64-x86-64-posix wine wine64 xz-utils)
