@@ -37,6 +37,7 @@ const QString kSerial = QStringLiteral("USB0000042");
 
 // For the spread of the allocator's pages: the loss of one socket's buffer in every 14th attempt would exceed it.
 constexpr qint64 kMemoryTolerance = 1024 * kKiB;
+constexpr int kAttemptsForMemory = 100; // with fewer, the caches that fill at first are all that is seen
 
 int Attempts(bool endsByLimit)
 {
@@ -288,6 +289,9 @@ void MachineFaultEnduranceTest::everyAttemptEndsOnceAndLeavesNothing()
           QTest::currentDataTag(), attempts, double(whole.elapsed()) / 1000, shortest, longest, longestPause,
           residentWarm / kKiB, warm, resident / kKiB, attempts,
           attempts > warm ? double(heap - heapWarm) / (attempts - warm) : 0.0);
+    if (attempts < kAttemptsForMemory) {
+        return;
+    }
     QVERIFY2(held - heldWarm <= kMemoryTolerance,
              qPrintable(QStringLiteral("%1 KiB more").arg((held - heldWarm) / kKiB)));
 }
