@@ -120,6 +120,9 @@ void FramelessWindowsTest::aDragOfAnEdgeResizesTheNativeWindows_data()
         QTest::addRow("%s, right", qPrintable(kind)) << kind << QPoint(498, 150) << QMargins(0, 0, 40, 0);
         QTest::addRow("%s, bottom", qPrintable(kind)) << kind << QPoint(250, 298) << QMargins(0, 0, 0, 30);
         QTest::addRow("%s, top left", qPrintable(kind)) << kind << QPoint(2, 2) << QMargins(-40, -30, 0, 0);
+        QTest::addRow("%s, top", qPrintable(kind)) << kind << QPoint(250, 2) << QMargins(0, -30, 0, 0);
+        QTest::addRow("%s, top right", qPrintable(kind)) << kind << QPoint(498, 2) << QMargins(0, -30, 40, 0);
+        QTest::addRow("%s, bottom left", qPrintable(kind)) << kind << QPoint(2, 298) << QMargins(-40, 0, 0, 30);
         QTest::addRow("%s, bottom right", qPrintable(kind)) << kind << QPoint(498, 298) << QMargins(0, 0, 40, 30);
     }
 }

@@ -11,6 +11,7 @@ class FramelessDialogTest : public QObject
 private Q_SLOTS:
     void aNewDialogHasNoSystemFrame();
     void paddingStartsAtEight();
+    void settersStoreOnly();
     void escapeNeverClosesTheDialog();
     void escapeOfTheTitleBarIsSwallowedToo();
     void releasedEscapeRestoresAMaximisedDialog();
@@ -38,6 +39,15 @@ void FramelessDialogTest::paddingStartsAtEight()
     QCOMPARE(dialog.padding, 8);
     dialog.setPadding(3);
     QCOMPARE(dialog.padding, 3);
+}
+
+void FramelessDialogTest::settersStoreOnly()
+{
+    FramelessDialog dialog;
+    dialog.setMoveEnable(false);
+    dialog.setResizeEnable(false);
+    QVERIFY(!dialog.moveEnable);
+    QVERIFY(!dialog.resizeEnable);
 }
 
 void FramelessDialogTest::escapeNeverClosesTheDialog()

@@ -135,6 +135,7 @@ private Q_SLOTS:
     void rowsAndAddressesGoInTheirOrder();
 
     void clickOnEitherColumnTakesTheRow();
+    void clickWhereNoRowIsKeepsTheRowClickedLast();
     void keyboardChoiceCarriesTheRowClickedLast();
     void connectWithNothingChosenDoesNothing();
     void connectWithASelectionAnnouncesTheRow();
@@ -886,6 +887,19 @@ void CSelectMachineBoxTest::clickOnEitherColumnTakesTheRow()
     panel.ClickRow(0, 1);
     QCOMPARE(panel.m_strMachineNum, QStringLiteral("SN1"));
     QCOMPARE(panel.ui->tableView->selectionModel()->selectedRows().size(), 1);
+}
+
+void CSelectMachineBoxTest::clickWhereNoRowIsKeepsTheRowClickedLast()
+{
+    Panel panel;
+    panel.show();
+    panel.SetMachineInfo(Machine(QStringLiteral("SN1"), QStringLiteral("10.0.0.5"), Eth), false);
+    panel.ClickRow(0);
+    LogCapture log;
+    panel.RowClicked(QModelIndex());
+    QCOMPARE(panel.m_strMachineNum, QStringLiteral("SN1"));
+    QCOMPARE(panel.m_strMachineIP, QStringLiteral("10.0.0.5"));
+    QVERIFY(log.Lines().isEmpty());
 }
 
 void CSelectMachineBoxTest::keyboardChoiceCarriesTheRowClickedLast()
