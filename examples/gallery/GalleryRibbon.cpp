@@ -223,8 +223,13 @@ void GalleryRibbon::AddHelpTab()
     OnClickReport("log_note", tr("备注：夹具已换。"));
     OnClick("log_folder", [this] { Report(tr("日志文件：%1").arg(QDir::toNativeSeparators(CDebugLog::LogFile()))); });
     OnClick("question", [this] {
+        // While the box is open the language may change, and the ribbon with it.
+        const QPointer<GalleryRibbon> self(this);
         const int answer = CVelmarMessageBox::ShowWindow(window(), MsgBtnYes | MsgBtnNo, MsgIconPop2, tr("提问"),
                                                          tr("毛坯已夹紧吗？"));
+        if (!self) {
+            return;
+        }
         Report(answer == MsgBtnYes ? tr("回答：是。") : tr("回答：否。"));
     });
     OnClick("about", [this] {

@@ -149,6 +149,7 @@ void ProgressPage::Finish(const QString& outcome)
 //! [progress-dialogs]
 void ProgressPage::RunAutomatically()
 {
+    CProgressWidget::FreeAutoWidget(m_pDialog, false);
     m_pDialog = CProgressWidget::CreateAutoWidget(tr("正在分析模型"), tr("打开模型"));
     m_pOutcome->setText(tr("正在运行：%1").arg(tr("打开模型")));
     QTimer::singleShot(AutomaticMs, this, [this] {
