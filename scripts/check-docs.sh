@@ -1,0 +1,113 @@
+#!/usr/bin/env bash
+# Checks docs/ and the README against the sources:
+#   - every exported class and function has its page, with an example, its signals and its traps;
+#   - code that is marked as taken from a file is that file's, word for word;
+#   - every signal and every property of a header is told of on its page;
+#   - every link leads somewhere.
+# With --fix the marked code is taken from the files anew.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+checks=0 problems=0
+check() { checks=$((checks + 1)); }
+problem() { # FILE TEXT
+    echo "$1: $2"
+    problems=$((problems + 1))
+}
+
+# The text that a page shows of a file: what stands between the lines [example] and [/example], or all of it.
+excerpt() {
+    if grep -q '^ *// \[example\]$' "$1"; then
+        awk '/^ *\/\/ \[example\]$/ { taking = first = 1; next }
+             /^ *\/\/ \[\/example\]$/ { taking = 0 }
+             taking { if (first) { indented = /^    /; first = 0 }
+                      if (indented) sub(/^    /, "")
+                      print }' "$1"
+    else
+        cat "$1"
+    fi
+}
+
+# Prints a page with the code of every mark "<!-- from: FILE -->" replaced by what FILE holds.
+refresh() {
+    local line file skipping=
+    while IFS= read -r line; do
+        if [ -n "$skipping" ]; then
+            [ "$line" = '```' ] || continue
+            skipping=
+        fi
+        printf '%s\n' "$line"
+        if [[ $line =~ ^'<!-- from: '(.*)' -->'$ ]]; then
+            file=${BASH_REMATCH[1]}
+            IFS= read -r line
+            printf '%s\n' "$line"
+            excerpt "$file"
+            skipping=yes
+        fi
+    done <"$1"
+}
+
+mapfile -t texts < <(git ls-files --cached --others --exclude-standard '*.md')
+
+for text in "${texts[@]}"; do
+    grep -q '^<!-- from: ' "$text" || continue
+    while IFS= read -r file; do
+        check
+        [ -f "$file" ] || problem "$text" "there is no $file"
+    done < <(sed -n 's/^<!-- from: \(.*\) -->$/\1/p' "$text")
+    refreshed=$(refresh "$text")
+    if [ "$refreshed" != "$(cat "$text")" ]; then
+        if [ "${1:-}" = --fix ]; then
+            printf '%s\n' "$refreshed" >"$text"
+        else
+            problem "$text" "its code is not that of the files any more; run scripts/check-docs.sh --fix"
+        fi
+    fi
+done
+
+# Pages of classes that a host makes by name alone stand beside those of exported ones.
+declare -A headers=([CPlainTextEdit]=CustomControls/fields/CPlainTextEdit.h
+    [CTextBrowser]=CustomControls/fields/CTextBrowser.h)
+while IFS=: read -r header name; do
+    headers[$name]=$header
+done < <(grep -rhHoP '^(class CUSTOMCONTROLS_EXPORT \K\w+|CUSTOMCONTROLS_EXPORT .*[ *]\K\w+(?=\())' --include='*.h' CustomControls)
+unset 'headers[CustomControls]' # it is nothing but a name
+
+for name in "${!headers[@]}"; do
+    header=${headers[$name]}
+    page=docs/controls/$name.md
+    check
+    [ -f "$page" ] || { problem "$header" "$name has no $page"; continue; }
+    grep -qF "](../../$header)" "$page" || problem "$page" "it does not link to $header"
+    grep -qF "<!-- from: docs/examples/$name.cpp -->" "$page" || problem "$page" "it has no example"
+    for heading in Example Operations Signals Traps; do
+        grep -qx "## $heading" "$page" || problem "$page" "it has no heading \"$heading\""
+    done
+    grep -qF "](docs/controls/$name.md)" README.md || problem README.md "it does not link to $page"
+    grep -qF "]($name.md)" docs/controls/README.md || problem docs/controls/README.md "it does not link to $page"
+    lines=$(excerpt "docs/examples/$name.cpp" | wc -l)
+    [ "$lines" -le 16 ] || problem "$page" "its example has $lines lines"
+    while IFS= read -r member; do
+        check
+        grep -qF "$member" "$page" || problem "$page" "it does not tell of $member"
+    done < <(grep -oP '^    Q_PROPERTY\(\S+ \K\w+' "$header" || true
+             awk '/^Q_SIGNALS:/ { on = 1; next } /^[a-z].*:$|^};/ { on = 0 } on' "$header" | grep -oP '^    void \K\w+(?=\()' || true)
+done
+for page in docs/controls/*.md; do
+    name=$(basename "$page" .md)
+    check
+    [ "$name" = README ] || [ -n "${headers[$name]:-}" ] || problem "$page" "there is no such class"
+done
+
+for text in "${texts[@]}"; do
+    folder=$(dirname "$text")
+    while IFS= read -r link; do
+        check
+        [ -e "$folder/${link%%#*}" ] || problem "$text" "the link to $link leads nowhere"
+    done < <(awk '/^ *```/ { code = !code; next } !code' "$text" | grep -oP '\]\(\K(?!https?:|#)[^)]+(?=\))' || true)
+done
+
+echo "$checks things checked"
+passed=$((problems ? 0 : 1))
+echo "Totals: $passed passed, $((1 - passed)) failed, 0 skipped"
+[ "$problems" -eq 0 ]
