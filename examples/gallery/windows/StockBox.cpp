@@ -40,7 +40,8 @@ StockBox::StockBox(QWidget* parent)
         tile->setFixedHeight(TileHeight);
         tile->setCursor(Qt::PointingHandCursor);
         tile->setChecked(m_pKinds->buttons().isEmpty());
-        m_pKinds->addButton(tile);
+        m_pKinds->addButton(tile, int(m_names.size()));
+        m_names.append(kind.text);
         row->addWidget(tile);
     }
     SetChildUI(choice);
@@ -48,7 +49,7 @@ StockBox::StockBox(QWidget* parent)
 
 void StockBox::SlotConfirm()
 {
-    Q_EMIT SignalStockAdded(m_pKinds->checkedButton()->text());
+    Q_EMIT SignalStockAdded(m_names.value(m_pKinds->checkedId()));
     close();
 }
 //! [pop-ups]

@@ -2,6 +2,8 @@
 
 #include <CustomControls/machine/CVelmarSelectBox.h>
 
+#include <QStringList>
+
 class QButtonGroup;
 
 /** The small pop-up in which the user adds a blank: a shell of the house around the host's own choice. */
@@ -20,5 +22,6 @@ protected Q_SLOTS:
     void SlotConfirm() override;
 
 private:
-    QButtonGroup* m_pKinds;
+    QButtonGroup* m_pKinds; ///< a tile's id is its place in the names
+    QStringList m_names;
 };
