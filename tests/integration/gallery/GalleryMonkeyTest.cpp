@@ -24,9 +24,8 @@
 // the program itself decides what has the focus and where the pointer is, so that equal seeds give equal runs, which no
 // window manager grants.
 //
-// A failure names its seed, its page and its event. "--seed N --events N --page NAME" with the same numbers replays it,
-// and
-// "--trace" tells every event.
+// A failure names its seed, its page and its event; the same "--seed N --events N --page NAME" replays it, and
+// "--trace" prints every event.
 
 namespace {
 constexpr int SettleRounds = 300;
