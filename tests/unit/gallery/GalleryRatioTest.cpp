@@ -12,7 +12,7 @@
 #include <QScrollArea>
 #include <QStyle>
 
-#include <cmath>
+#include <algorithm>
 #include <memory>
 
 /** Every page in both languages, at the ratio that QT_SCALE_FACTOR sets for the process. */
@@ -171,19 +171,20 @@ void GalleryRatioTest::CheckPlaces()
 void GalleryRatioTest::CheckPictures()
 {
     const double ratio = m_pWindow->devicePixelRatio();
-    const double sharp = std::min(std::ceil(ratio), LargestTwin);
+    // A size of whole pixels may fall a little short of a ratio like 1.25.
+    const double sharp = 0.95 * std::min(ratio, LargestTwin);
     const QList<QWidget*> widgets = Seen();
     for (QWidget* widget : widgets) {
         if (const auto* label = qobject_cast<QLabel*>(widget); label && !label->pixmap(Qt::ReturnByValue).isNull()) {
             const QPixmap pixmap = label->pixmap(Qt::ReturnByValue);
-            QVERIFY2(pixmap.devicePixelRatio() >= std::min(ratio, sharp), qPrintable(Name(label)));
+            QVERIFY2(pixmap.devicePixelRatio() >= sharp, qPrintable(Name(label)));
         }
         const auto* button = qobject_cast<QAbstractButton*>(widget);
         // The toolkit's buttons in a field paint their icon at a size of the field's.
         const bool inField = qobject_cast<QLineEdit*>(widget->parentWidget());
         if (button && !inField && !button->icon().isNull()) {
             const QPixmap pixmap = button->icon().pixmap(button->iconSize(), ratio);
-            QVERIFY2(pixmap.devicePixelRatio() >= std::min(ratio, sharp), qPrintable(Name(button)));
+            QVERIFY2(pixmap.devicePixelRatio() >= sharp, qPrintable(Name(button)));
         }
     }
     const QImage image = m_pWindow->grab().toImage();
