@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Checks docs/ and the README against the sources:
-#   - every exported class and function has its page, with an example, its signals and its traps;
+#   - every exported class and function has its page, with a picture, an example, its signals and its traps;
 #   - code that is marked as taken from a file is that file's, word for word;
 #   - every signal and every property of a header is told of on its page;
 #   - every link leads somewhere.
@@ -79,6 +79,7 @@ for name in "${!headers[@]}"; do
     check
     [ -f "$page" ] || { problem "$header" "$name has no $page"; continue; }
     grep -qF "](../../$header)" "$page" || problem "$page" "it does not link to $header"
+    grep -qE '^!\[.+\]\(\.\./images/controls/.+\.png\)' "$page" || problem "$page" "it has no picture"
     grep -qF "<!-- from: docs/examples/$name.cpp -->" "$page" || problem "$page" "it has no example"
     for heading in Example Operations Signals Traps; do
         grep -qx "## $heading" "$page" || problem "$page" "it has no heading \"$heading\""

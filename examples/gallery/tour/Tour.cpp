@@ -62,6 +62,9 @@ bool Tour::Prepare(const QStringList& onlyGroups, QString* problem)
     groups.push_back(TourToolConfirmation(this));
     groups.push_back(TourToolTable(this));
     groups.push_back(TourUsb(this));
+    for (TourGroup& pictures : TourPictures(this)) {
+        groups.push_back(std::move(pictures));
+    }
 
     QStringList unknown = onlyGroups;
     for (TourGroup& group : groups) {
@@ -69,7 +72,7 @@ bool Tour::Prepare(const QStringList& onlyGroups, QString* problem)
         if (!group.bEveryLanguage && !CorvaneTextHelper::instance()->AppInChineseEnvironment()) {
             group.strSkipReason = QStringLiteral("its texts are checked in Chinese");
         }
-        if (onlyGroups.isEmpty() || onlyGroups.contains(group.strName)) {
+        if (onlyGroups.isEmpty() ? !group.bOnRequest : onlyGroups.contains(group.strName)) {
             m_groups.push_back(std::move(group));
         }
     }
@@ -218,6 +221,13 @@ void Tour::Report(const QString& outcome, const QString& detail)
 
 void Tour::SavePicture()
 {
+    const TourStep& step = m_groups.at(m_iGroup).steps.at(m_iStep);
+    if (step.picture) {
+        if (!step.picture().save(QDir(m_strFolder).filePath(step.strName + QStringLiteral(".png")))) {
+            std::printf("    cannot save %s.png\n", qUtf8Printable(step.strName));
+        }
+        return;
+    }
     QRect area;
     for (QWidget* widget : QApplication::topLevelWidgets()) {
         if (widget->isVisible()) {

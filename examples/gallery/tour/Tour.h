@@ -7,6 +7,7 @@
 #include <QHash>
 #include <QList>
 #include <QObject>
+#include <QPixmap>
 #include <QRect>
 #include <QString>
 #include <QTimer>
@@ -29,6 +30,8 @@ struct TourStep
     /** What shows only for a moment is pictured at once and not looked at twice. */
     bool bMomentary = false;
     int iTimeoutMs = 20000;
+    /** Set, it makes the step's picture, which is saved under the step's plain name, in place of the whole screen's. */
+    std::function<QPixmap()> picture = {};
 };
 
 /** Steps that belong together; when one fails, the others of its group are left out. */
@@ -38,6 +41,7 @@ struct TourGroup
     QString strSkipReason; ///< not empty: the group is reported as skipped
     std::vector<TourStep> steps;
     bool bEveryLanguage = false; ///< checks no text of one language alone
+    bool bOnRequest = false;     ///< walked only when it is asked for by name
 };
 
 /**
@@ -121,6 +125,7 @@ private:
 
 // The groups, each in a file of its own.
 TourGroup TourPages(Tour* tour);
+std::vector<TourGroup> TourPictures(Tour* tour); // on request: the pictures of docs/
 TourGroup TourWindows(Tour* tour);
 TourGroup TourRibbon(Tour* tour);
 TourGroup TourButtons(Tour* tour);
