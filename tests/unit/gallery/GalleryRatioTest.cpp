@@ -171,8 +171,8 @@ void GalleryRatioTest::CheckPlaces()
 void GalleryRatioTest::CheckPictures()
 {
     const double ratio = m_pWindow->devicePixelRatio();
-    // A size of whole pixels may fall a little short of a ratio like 1.25.
-    const double sharp = 0.95 * std::min(ratio, LargestTwin);
+    // Between whole ratios the toolkit takes the twin whose size is nearest, which may be the smaller one.
+    const double sharp = std::min(std::floor(ratio), LargestTwin);
     const QList<QWidget*> widgets = Seen();
     for (QWidget* widget : widgets) {
         if (const auto* label = qobject_cast<QLabel*>(widget); label && !label->pixmap(Qt::ReturnByValue).isNull()) {
