@@ -151,7 +151,8 @@ int main(int argc, char* argv[])
     parser.addOption(traceOption);
     parser.process(app);
     const quint32 seed = parser.value(seedOption).toUInt();
-    const int events = parser.value(eventsOption).toInt() / int(GalleryPages().size());
+    const int pages = int(GalleryPages().size());
+    const int events = (parser.value(eventsOption).toInt() + pages - 1) / pages;
 
     MonkeyRecord::Install();
     if (parser.isSet(traceOption)) {
