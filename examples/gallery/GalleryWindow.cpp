@@ -170,6 +170,11 @@ void GalleryWindow::Retranslate()
     for (int page = 0; page < m_pStack->count(); ++page) {
         auto* scroll = qobject_cast<QScrollArea*>(m_pStack->widget(page));
         const int place = scroll->verticalScrollBar()->value();
+        // Taken out with the focus in it, the page would leave the window pointing at what is deleted.
+        QWidget* focus = focusWidget();
+        if (focus && scroll->isAncestorOf(focus)) {
+            focus->clearFocus();
+        }
         delete scroll->takeWidget();
         if (page == m_pPageList->CurrentPage()) {
             ShowPage(page);
