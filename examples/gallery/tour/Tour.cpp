@@ -225,6 +225,7 @@ void Tour::SavePicture()
     if (step.picture) {
         if (!step.picture().save(QDir(m_strFolder).filePath(step.strName + QStringLiteral(".png")))) {
             std::printf("    cannot save %s.png\n", qUtf8Printable(step.strName));
+            ++m_iFailed;
         }
         return;
     }

@@ -45,7 +45,8 @@ using namespace TourLook;
 // The pictures of docs/: each step is named as the page that shows it. They are put together from what the widgets
 // themselves give, so that neither a window manager nor a compositor has a part in them.
 namespace {
-constexpr int Around = 8; // of the gallery, around controls that lie on it
+constexpr int ToastTop = 40; // below the upper edge of its view
+constexpr int Around = 8;    // of the gallery, around controls that lie on it
 
 /** The visible widgets of that class: in the gallery in the order of its tree, then in other windows. */
 template <class Widget>
@@ -186,6 +187,15 @@ Act ScrollTo(const std::function<QWidget*()>& widget)
                 scroll->ensureWidgetVisible(widget(), Around, Around);
             }
         }
+    };
+}
+
+/** Closes a frameless window by its own title bar: every window of the gallery has such a button. */
+Act CloseOf(const char* window)
+{
+    return [window](TourInput& input) {
+        QWidget* found = Find(QLatin1String(window));
+        input.Click(found ? found->findChild<QWidget*>(QStringLiteral("titleClose")) : nullptr);
     };
 }
 
@@ -336,13 +346,18 @@ std::vector<TourGroup> Pictures(GalleryWindow* window)
     add(Ready("close the note", Click("pageHeading"), [] { return !First<CHintToolTip>(); }));
 
     open("toasts");
-    add(Shot("ToastWidget", Click("toast4"), [] {
+    TourStep toast = Alone("ToastWidget", Click("toast4"), [] { return First<ToastWidget>(); });
+    toast.picture = [] {
+        // Put where the page puts it: the window manager brings it there in its own time.
         QWidget* view = Find(QStringLiteral("machiningView"));
-        auto* toast = First<ToastWidget>();
-        // The window manager brings it to its place a moment after it shows.
-        const bool isInPlace = view && toast && OnScreen(view).contains(OnScreen(toast));
-        return QList<QWidget*>{view, isInPlace ? toast : nullptr};
-    }));
+        const QPixmap strip = Grab(First<ToastWidget>());
+        QPixmap picture = Grab(view);
+        if (!picture.isNull()) {
+            QPainter(&picture).drawPixmap((picture.width() - strip.width()) / 2, ToastTop, strip);
+        }
+        return picture;
+    };
+    add(toast);
 
     open("watermark");
     add(Alone("CVelmarAnimation", {}, [] { return CardOf<CVelmarAnimation>(); }));
@@ -407,18 +422,13 @@ std::vector<TourGroup> Pictures(GalleryWindow* window)
 
     open("frameless-windows");
     add(Alone("FramelessMainWindow", Click("openSimulation"), [] { return Find(QStringLiteral("simulationWindow")); }));
-    add(Ready(
-        "close the simulation",
-        [](TourInput& input) {
-            QWidget* simulation = Find(QStringLiteral("simulationWindow"));
-            input.Click(simulation ? simulation->findChild<QWidget*>(QStringLiteral("titleClose")) : nullptr);
-        },
-        [] { return !Find(QStringLiteral("simulationWindow")); }));
+    add(Ready("close the simulation", CloseOf("simulationWindow"),
+              [] { return !Find(QStringLiteral("simulationWindow")); }));
     add(Alone("FramelessDialog", Click("openTool"), [] { return Find(QStringLiteral("toolDialog")); }));
     add(Ready("close the dialog", Click("toolCancel"), [] { return !Find(QStringLiteral("toolDialog")); }));
     add(Alone("PureQtFramelessWindow", Click("openPosition"), [] { return Find(QStringLiteral("positionPanel")); }));
 
-    add(Ready("close the panel of positions", Click("titleClose"),
+    add(Ready("close the panel of positions", CloseOf("positionPanel"),
               [] { return !Find(QStringLiteral("positionPanel")); }));
     add(Alone("CVelmarSelectBox", Click("openStock"), [] { return Find(QStringLiteral("stockBox")); }));
     add(Ready("close the shell", Key("Escape"), [] { return !Find(QStringLiteral("stockBox")); }));
