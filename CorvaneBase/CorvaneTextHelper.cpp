@@ -20,6 +20,7 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <new>
 #include <optional>
 
 namespace {
@@ -146,7 +147,11 @@ QVariant FromJson(const QJsonValue& json)
     QVariant other;
     QDataStream stream(bytes);
     stream.setVersion(QDataStream::Qt_6_4);
-    stream >> other;
+    try {
+        stream >> other;
+    } catch (const std::bad_alloc&) { // the toolkit makes room for as many entries as a damaged file says there are
+        return {};
+    }
     return stream.status() == QDataStream::Ok ? other : QVariant();
 }
 

@@ -32,13 +32,13 @@ rm -f "$results"/*
 scratch=$(mktemp -d -p /dev/shm fuzz-XXXXXX 2>/dev/null || mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 export TMPDIR=$scratch QT_QPA_PLATFORM=offscreen
-export ASAN_OPTIONS=detect_leaks=1:quarantine_size_mb=64 UBSAN_OPTIONS=print_stacktrace=1
+export ASAN_OPTIONS=detect_leaks=1:quarantine_size_mb=64:allocator_may_return_null=1 UBSAN_OPTIONS=print_stacktrace=1
 export LSAN_OPTIONS=suppressions=$PWD/tests/fuzz/lsan.supp:print_suppressions=0
 
 # fuzz TARGET: its outcome goes to one file, for the table below
 fuzz() {
     local target=$1 seeds=tests/fuzz/corpus/$1 grown=build/fuzz/grown/$1 log=build/fuzz/$1.log
-    local options=(-timeout=20 -rss_limit_mb=2048 -max_len=1024 "-artifact_prefix=build/fuzz/findings/$target-")
+    local options=(-timeout=20 -rss_limit_mb=2048 -malloc_limit_mb=1048576 -max_len=1024 "-artifact_prefix=build/fuzz/findings/$target-")
     mkdir -p "$grown"
     if ! build/fuzz/fuzz/"$target" "${options[@]}" "$seeds"/* >"$log" 2>&1; then
         echo "replay FAILED" >"$results/$target"

@@ -387,7 +387,7 @@ void CSelectMachineBox::RowClicked(const QModelIndex& index)
 bool CSelectMachineBox::eventFilter(QObject* watched, QEvent* event)
 {
     // The arrow keys only mark a row, as they always have; the space bar is the keyboard's click.
-    if (watched == ui->tableView && event->type() == QEvent::KeyPress) {
+    if (event->type() == QEvent::KeyPress && watched == ui->tableView) {
         const auto* key = static_cast<QKeyEvent*>(event);
         const QModelIndex index = ui->tableView->currentIndex();
         if (key->key() == Qt::Key_Space && !key->isAutoRepeat() && index.isValid()) {

@@ -44,6 +44,7 @@ private Q_SLOTS:
     void hugeFileIsNotRead();
     void foreignEntriesAreIgnored();
     void valuesWithinValuesFillNoStack();
+    void countBeyondAllMemoryIsNoValue();
     void valueHoldsForTheRunWhereItCannotBeWritten_data();
     void valueHoldsForTheRunWhereItCannotBeWritten();
     void oldFileStaysWhereTheNewOneCannotBeWritten();
@@ -290,6 +291,15 @@ void CorvaneTextHelperTest::valuesWithinValuesFillNoStack()
     const QByteArray bytes = level.repeated(200000).toBase64();
     Write(Path(), "{\"1\":{\"nest\":{\"variant\":\"" + bytes + "\"},\"ok\":7}}");
     QCOMPARE(Get("nest", "default"), QVariant("default"));
+    QCOMPARE(Get("ok"), QVariant(7));
+}
+
+void CorvaneTextHelperTest::countBeyondAllMemoryIsNoValue()
+{
+    // A list that says it has the largest number of entries there is.
+    const QByteArray bytes = QByteArray::fromHex("00000009007fffffff0000000200").toBase64();
+    Write(Path(), "{\"1\":{\"list\":{\"variant\":\"" + bytes + "\"},\"ok\":7}}");
+    QCOMPARE(Get("list", "default"), QVariant("default"));
     QCOMPARE(Get("ok"), QVariant(7));
 }
 
