@@ -28,7 +28,7 @@ class CProgressWidget;
  * dialog named by its title, with a progress bar whose value it can follow.
  *
  * @code
- * QPointer<CProgressWidget> progress = CProgressWidget::CreateAutoWidget(tr("Rebuilding"), tr("Please wait"));
+ * QPointer<CProgressWidget> progress = CProgressWidget::CreateAutoWidget(tr("Please wait"), tr("Rebuilding"));
  * connect(job, &Job::finished, this, [progress] { CProgressWidget::FreeAutoWidget(progress, true); });
  * job->start();
  * @endcode

@@ -10,6 +10,6 @@
 enum MenuStyle : int
 {
     MenuStyleFlat = 0,  ///< a light panel without border
-    MenuStyleDark = 1,  ///< a dark panel, what every menu starts with
+    MenuStyleDark = 1,  ///< a dark panel; what the rows of a CCustomMenu start with
     MenuStyleWhite = 2, ///< a white panel with a grey border
 };

@@ -12,15 +12,19 @@ EXAMPLE(CCustomMenu)
     CCustomMenu* recent = menu->AddButtonWithSubMenu("Recent", {}, {}, {}, {});
     recent->AddMenuItem(1, "Gearbox cover.cnc", {}, {}, {});
     menu->SetMenuStyle(MenuStyleWhite);
+    for (int i = 0; i < menu->MenuButtonCount(); ++i) {
+        menu->MenuButton(i)->SetChooseFocus(false); // brings the style's text colour
+    }
     menu->UpdateItemSize(); // once, after the last row
     menu->RefreshSize();
     menu->move(40, 40);
     menu->show(); // a CMenuBtnHelper would do that
-    QObject::connect(menu, &CCustomMenu::SignalItemClicked, window, [=] { window->setWindowTitle("chosen"); });
+    QObject::connect(menu->MenuButton(0), &CCustomMenuItem::SignalMenuItemClicked, window,
+                     [=] { window->setWindowTitle("open"); });
     // [/example]
     QCOMPARE(menu->MenuButtonCount(), 2);
     QCOMPARE(menu->GetCustomMenu(menu->MenuButton(1)), recent);
     QTest::mouseClick(menu->MenuButton(0), Qt::LeftButton);
     QVERIFY(menu->isHidden());
-    QCOMPARE(window->windowTitle(), "chosen");
+    QCOMPARE(window->windowTitle(), "open");
 }

@@ -11,6 +11,7 @@ EXAMPLE(CVelmarButton)
     const QString icon = "url(:/icon/connect/ico_machine.png)";
     button->SetButtonIcon(icon, icon, icon, icon);
     button->SetButtonText("Finishing", false);
+    button->SetButtonTextPos(0, 0, 0, 0, 90, 36); // the room that the caption may take beside the icon
     button->SetTextColor("#333333", "#0f5f3a", "#188553", "#ffffff");
     button->SetBackgroundSolid(0xffffff, 0xd6e9df, 0xeef6f2, 0x188553);
     button->SetBtnRadius(4);

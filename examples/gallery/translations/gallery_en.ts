@@ -1775,7 +1775,7 @@
     </message>
     <message>
         <source>刀库里的刀具：能用的可以选择，直径和长度就地修改；以及等待加工的程序。</source>
-        <translation>The magazine’s tools: choose those that fit, edit diameter and length in place; and the programs that wait.</translation>
+        <translation>The tools of the magazine: choose those that fit, edit diameter and length in place; and the programs that wait.</translation>
     </message>
 </context>
 <context>
