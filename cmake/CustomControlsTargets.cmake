@@ -1,4 +1,4 @@
-# What every target of this tree shares: warnings, sanitizers, the include root.
+# What every target of this tree shares: warnings, sanitizers, the include root; and Qt's headers, compiled once.
 
 function(customcontrols_configure target)
     target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}")
@@ -20,5 +20,22 @@ function(customcontrols_configure target)
             target_compile_options(${target} PRIVATE --coverage -fprofile-update=atomic)
         endif()
         target_link_options(${target} PRIVATE --coverage)
+    endif()
+endfunction()
+
+# Has the target compile on top of Qt's headers, which are compiled once, where CUSTOMCONTROLS_PRECOMPILE asks for it.
+# Targets with the same flags share them: the second argument names who makes them.
+function(customcontrols_precompile target)
+    if(NOT CUSTOMCONTROLS_PRECOMPILE)
+        return()
+    endif()
+    if(ARGC GREATER 1)
+        target_precompile_headers(${target} REUSE_FROM ${ARGV1})
+    else()
+        target_precompile_headers(${target} PRIVATE <QtWidgets>)
+    endif()
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        # The second is what ccache needs to recognise such a compilation.
+        target_compile_options(${target} PRIVATE -Winvalid-pch -fpch-preprocess)
     endif()
 endfunction()

@@ -40,7 +40,7 @@ for preset in "${presets[@]}"; do
     say "Integration tests ($preset), on a display with a window manager"
     # A window manager moves focus and windows at its own pace: one more try for a test that met it at a bad moment; one
     # that fails twice has failed.
-    run_label "$preset" integration --repeat until-pass:2
+    run_label "$preset" integration -j "$(nproc)" --repeat until-pass:2
 done
 
 say "Test functions in all"

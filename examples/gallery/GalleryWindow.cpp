@@ -134,6 +134,8 @@ void GalleryWindow::CreateRibbon()
     const std::unique_ptr<GalleryRibbon> old(m_pRibbon);
     m_pRibbon = new GalleryRibbon;
     m_pLayout->insertWidget(RibbonPlace, m_pRibbon);
+    // A layout shows what it takes in with a posted call, until which the window would stand without a ribbon.
+    m_pRibbon->show();
     connect(m_pRibbon, &GalleryRibbon::SignalOpenPage, this, &GalleryWindow::OpenPage);
     if (old) {
         m_pRibbon->TakeOver(*old);

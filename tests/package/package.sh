@@ -125,7 +125,8 @@ Deb)
     for tool in cpack dpkg-deb dpkg-shlibdeps file; do
         command -v "$tool" >/dev/null || { echo "skipped: $tool is missing"; exit 77; }
     done
-    (cd "$build" && cpack -G DEB -B "$work") >"$work/cpack.log" 2>&1 || { cat "$work/cpack.log"; exit 1; }
+    # A builder's habits are no property of the package.
+    (umask 077 && cd "$build" && cpack -G DEB -B "$work") >"$work/cpack.log" 2>&1 || { cat "$work/cpack.log"; exit 1; }
     deb=$(find "$work" -maxdepth 1 -name '*.deb')
     version=$(sed -n 's/^project(CustomControls VERSION \([0-9.]*\).*/\1/p' "$source/CMakeLists.txt")
     architecture=$(dpkg --print-architecture)

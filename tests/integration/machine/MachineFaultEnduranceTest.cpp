@@ -13,7 +13,9 @@
 #include <QLoggingCategory>
 #include <QPixmapCache>
 #include <QPushButton>
+#include <QSemaphore>
 #include <QTableView>
+#include <QThreadPool>
 #include <QTimer>
 
 #include <algorithm>
@@ -133,6 +135,24 @@ qint64 HeldMemory()
 #endif
 }
 
+// The pool makes a thread whenever all that it has are busy, and each brings a descriptor along: all are made beforehand.
+void StartAllThreadsOfThePool()
+{
+    QThreadPool* pool = QThreadPool::globalInstance();
+    pool->setExpiryTimeout(-1);
+    QSemaphore arrived;
+    QSemaphore leave;
+    for (int thread = 0; thread < pool->maxThreadCount(); ++thread) {
+        pool->start([&arrived, &leave] {
+            arrived.release();
+            leave.acquire();
+        });
+    }
+    arrived.acquire(pool->maxThreadCount());
+    leave.release(pool->maxThreadCount());
+    pool->waitForDone();
+}
+
 } // namespace
 
 /** Attempt after attempt to connect to a machine at fault: each ends once, and none of them leaves anything behind. */
@@ -158,6 +178,7 @@ void MachineFaultEnduranceTest::initTestCase()
     NetworkConfigurator::SetProvider({});
     SetFtpConnectionProvider({});
     QApplication::setQuitOnLastWindowClosed(false);
+    StartAllThreadsOfThePool();
 }
 
 void MachineFaultEnduranceTest::everyAttemptEndsOnceAndLeavesNothing_data()
