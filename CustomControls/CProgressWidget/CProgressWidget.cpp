@@ -8,6 +8,7 @@
 #include <CustomControls/CProgressWidget/CProgressWidgetAccessible.h>
 #include <CustomControls/accessibility/AccessibleFactory.h>
 #include <CustomControls/accessibility/KeyboardFocus.h>
+#include <CustomControls/accessibility/TranslatedName.h>
 #include <CustomControls/messagebox/MovieCopy_p.h>
 
 #include <QApplication>
@@ -119,14 +120,14 @@ CProgressWidget::CProgressWidget(QWidget* parent)
     m_pBtnClose->setStyleSheet(QString::fromLatin1(kCloseButtonSheet));
     m_pBtnClose->setFixedSize(kCloseButtonSize, kCloseButtonSize);
     m_pBtnClose->move(width() - kCloseButtonSize - kCloseButtonMargin, kCloseButtonMargin);
-    m_pBtnClose->setAccessibleName(tr("关闭"));
+    SetTranslatedName(m_pBtnClose, [] { return tr("关闭"); });
     KeyboardFocus::ShowOn(m_pBtnClose);
     m_pBtnClose->show();
     connect(m_pBtnClose, &QPushButton::clicked, this, &CProgressWidget::SlotClose);
 
     connect(m_pTimerAuto, &QTimer::timeout, this, &CProgressWidget::AdvanceBar);
     ui->myprogress->progressBar()->setFixedWidth(kBarWidth);
-    ui->myprogress->progressBar()->setAccessibleName(tr("进度"));
+    SetTranslatedName(ui->myprogress->progressBar(), [] { return tr("进度"); });
     ui->myprogress->setFixedHeight(WholeOnScreen(kBarHeight));
     connect(CorvaneSignalHelper::instance(), &CorvaneSignalHelper::signalAboutToExit, this, &CProgressWidget::SlotQuit);
 }

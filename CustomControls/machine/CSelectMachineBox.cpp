@@ -12,6 +12,7 @@
 #include <CorvaneBase/NetworkConfigurator.h>
 #include <CustomControls/CProgressWidget/CProgressWidget.h>
 #include <CustomControls/accessibility/KeyboardFocus.h>
+#include <CustomControls/accessibility/TranslatedName.h>
 #include <CustomControls/machine/CSelectMachineIPLineEdit.h>
 #include <CustomControls/messagebox/CVelmarMessageBox.h>
 #include <CustomControls/tables/CFileNameDelegate.h>
@@ -161,7 +162,7 @@ void CSelectMachineBox::InitWindow()
     // The strip's height is fixed: where a font is tall, the address line gives way and the buttons below stay whole.
     ui->ipWidget->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
 
-    ui->tableView->setAccessibleName(tr("设备列表"));
+    SetTranslatedName(ui->tableView, [] { return tr("设备列表"); });
     ui->tableView->installEventFilter(this);
     // Rows are chosen whole, and Tab has to lead on to the buttons.
     ui->tableView->setTabKeyNavigation(false);

@@ -5,6 +5,7 @@
 #include <CorvaneBase/CorvaneFonts.h>
 #include <CustomControls/accessibility/AccessibleFactory.h>
 #include <CustomControls/accessibility/KeyboardFocus.h>
+#include <CustomControls/accessibility/TranslatedName.h>
 #include <CustomControls/machine/CVelmarSelectBoxAccessible.h>
 
 #include <QIcon>
@@ -23,7 +24,7 @@ CVelmarSelectBox::CVelmarSelectBox(QWidget* parent)
     const QIcon icon(QStringLiteral(":/icon/selectbox/base/icon_scanning_right_inf_maopi.png"));
     ui->m_labelBoxIcon->setPixmap(icon.pixmap(BoxIconSize, QIcon::Normal, QIcon::Off));
     ui->m_labelHint->hide();
-    ui->m_btnClose->setAccessibleName(tr("关闭"));
+    SetTranslatedName(ui->m_btnClose, [] { return tr("关闭"); });
     KeyboardFocus::ShowOn(ui->m_btnClose);
     KeyboardFocus::ShowOn(ui->m_btnConfirm);
     setAttribute(Qt::WA_DeleteOnClose, true);

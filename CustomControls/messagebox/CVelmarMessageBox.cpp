@@ -11,6 +11,7 @@
 #include <CustomControls/accessibility/AccessibleControl.h>
 #include <CustomControls/accessibility/AccessibleFactory.h>
 #include <CustomControls/accessibility/KeyboardFocus.h>
+#include <CustomControls/accessibility/TranslatedName.h>
 #include <CustomControls/messagebox/CVelmarMessageBoxAccessible.h>
 #include <CustomControls/messagebox/CVelmarMessageListItem.h>
 #include <CustomControls/messagebox/MovieCopy_p.h>
@@ -254,7 +255,7 @@ void CVelmarMessageBox::ApplyCloseButtonRule(int buttonMask)
     m_pBtnClose->setFixedSize(kCloseButtonSize);
     m_pBtnClose->move(width() - m_pBtnClose->width() - kCloseButtonGap, kCloseButtonGap);
     m_pBtnClose->setFocusPolicy(Qt::NoFocus);
-    m_pBtnClose->setAccessibleName(tr("关闭"));
+    SetTranslatedName(m_pBtnClose, [] { return tr("关闭"); });
     m_pBtnClose->show();
     connect(m_pBtnClose, &QPushButton::clicked, this, &CVelmarMessageBox::pushButton_clicked_slot);
 }

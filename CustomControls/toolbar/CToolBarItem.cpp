@@ -3,6 +3,7 @@
 #include <CorvaneBase/CorvaneFonts.h>
 #include <CorvaneBase/CorvaneTextHelper.h>
 #include <CustomControls/StatefulIcon.h>
+#include <CustomControls/accessibility/TranslatedName.h>
 #include <CustomControls/toolbar/CToolButton.h>
 #include <CustomControls/toolbar/CToolButtonVertical.h>
 
@@ -102,7 +103,7 @@ CToolBarItem::CToolBarItem(const QString& name, QWidget* parent)
         m_pExtensionBtn->setStyleSheet(kExtensionSheet);
         m_pExtensionBtn->setIconSize(kExtensionIcon);
         m_pExtensionBtn->setFixedHeight(kExtensionHeight);
-        m_pExtensionBtn->setAccessibleName(tr("更多工具"));
+        SetTranslatedName(m_pExtensionBtn, [] { return tr("更多工具"); });
     }
 }
 

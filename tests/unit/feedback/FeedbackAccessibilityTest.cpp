@@ -4,6 +4,7 @@
 
 #include <tests/support/Accessible.h>
 #include <tests/support/AccessibleEvents.h>
+#include <tests/support/InEnglish.h>
 #include <tests/support/TestMain.h>
 
 #include <QProgressBar>
@@ -55,6 +56,19 @@ private Q_SLOTS:
         QCOMPARE(AccessibleName(bar), QStringLiteral("进度"));
         dialog.setValue(40, false);
         QCOMPARE(Accessible(bar)->valueInterface()->currentValue().toInt(), 40);
+    }
+
+    void namesThatNobodySeesFollowTheLanguage()
+    {
+        CProgressWidget dialog; // while it is hidden too
+        const auto* bar = dialog.findChild<QProgressBar*>();
+        {
+            const InEnglish english;
+            QCOMPARE(bar->accessibleName(), QStringLiteral("Progress"));
+            QCOMPARE(dialog.m_pBtnClose->accessibleName(), QStringLiteral("Close"));
+        }
+        QCOMPARE(bar->accessibleName(), QStringLiteral("进度"));
+        QCOMPARE(dialog.m_pBtnClose->accessibleName(), QStringLiteral("关闭"));
     }
 
     void closeButtonOfTheProgressDialogIsReachedByTab()

@@ -6,6 +6,7 @@
 #include <CustomControls/accessibility/KeyboardFocus.h>
 
 #include <tests/support/Accessible.h>
+#include <tests/support/InEnglish.h>
 #include <tests/support/TestMain.h>
 
 #include <QStandardItemModel>
@@ -50,6 +51,21 @@ private Q_SLOTS:
                 QVERIFY2(!AccessibleName(const_cast<QPushButton*>(button)).isEmpty(), qPrintable(button->objectName()));
             }
         }
+    }
+
+    void namesThatNobodySeesFollowTheLanguage()
+    {
+        Panel panel;
+        auto* close = panel.findChild<QPushButton*>(QStringLiteral("m_btnClose"));
+        {
+            const InEnglish english;
+            QCOMPARE(AccessibleName(panel.ui->tableView), QStringLiteral("Machines"));
+            QCOMPARE(AccessibleName(close), QStringLiteral("Close"));
+            panel.ui->tableView->setAccessibleName(QStringLiteral("Mills"));
+        }
+        QCOMPARE(AccessibleName(close), QStringLiteral("关闭"));
+        // The host's own name is the host's to change.
+        QCOMPARE(AccessibleName(panel.ui->tableView), QStringLiteral("Mills"));
     }
 
     void machineIsPickedAndConnectedWithoutTheMouse()

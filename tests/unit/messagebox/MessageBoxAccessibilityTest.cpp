@@ -3,6 +3,7 @@
 #include "RunningBox.h"
 #include <tests/support/Accessible.h>
 #include <tests/support/AccessibleEvents.h>
+#include <tests/support/InEnglish.h>
 #include <tests/support/TestMain.h>
 
 #include <QCheckBox>
@@ -50,6 +51,10 @@ private Q_SLOTS:
                 QVERIFY(Actions(button).contains(PressAction()));
             }
             QCOMPARE(AccessibleName(box->m_pBtnClose), QStringLiteral("关闭"));
+            {
+                const InEnglish english;
+                QCOMPARE(AccessibleName(box->m_pBtnClose), QStringLiteral("Close"));
+            }
             Act(ButtonOf(box, MsgBtnNo), PressAction());
         });
         QCOMPARE(CVelmarMessageBox::ShowWindow(nullptr, MsgBtnYes | MsgBtnNo | MsgBtnCancel, MsgIconPop1,

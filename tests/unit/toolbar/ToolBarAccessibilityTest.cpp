@@ -4,6 +4,7 @@
 #include <CustomControls/toolbar/CToolButton.h>
 
 #include <tests/support/Accessible.h>
+#include <tests/support/InEnglish.h>
 #include <tests/support/TestMain.h>
 
 #include <QMenu>
@@ -109,6 +110,8 @@ private Q_SLOTS:
         QCOMPARE(spy.count(), 1);
         auto* overflow = block.findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button"));
         QCOMPARE(AccessibleName(overflow), QStringLiteral("更多工具"));
+        const InEnglish english;
+        QCOMPARE(AccessibleName(overflow), QStringLiteral("More tools"));
     }
 
     void ringStandsAroundTheCurrentTab()
