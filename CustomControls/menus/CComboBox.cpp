@@ -7,6 +7,7 @@
 
 #include <CorvaneBase/CorvaneFonts.h>
 #include <CustomControls/accessibility/AccessibleFactory.h>
+#include <CustomControls/menus/MenuHelpers_p.h>
 
 #include <QAbstractItemView>
 #include <QCursor>
@@ -23,6 +24,8 @@
 #include <algorithm>
 
 namespace {
+
+using MenuHelpers::Wear;
 
 // The list opens this far under the box.
 constexpr int kListGap = 2;
@@ -57,14 +60,6 @@ const QString kEnterSheet = QStringLiteral(
     "background:transparent; padding-right:-1px;border-left:0px solid #000000; "
     "image:url(:/icon/icon/arrow_down_sel.png);}"
     "QComboBox::disabled{color:#666666;}");
-
-// The toolkit parses a sheet anew also when it is the one that the widget already wears.
-void Wear(QWidget* widget, const QString& sheet)
-{
-    if (widget->styleSheet() != sheet) {
-        widget->setStyleSheet(sheet);
-    }
-}
 
 // The widget that is to hold the list: the outermost one, so that no panel clips it, or the host's own.
 QWidget* ListHostOf(QWidget* widget)

@@ -7,6 +7,7 @@
 #include <CustomControls/accessibility/AccessibleFactory.h>
 #include <CustomControls/menus/CCustomMenuAccessible.h>
 #include <CustomControls/menus/CCustomMenuItem.h>
+#include <CustomControls/menus/MenuHelpers_p.h>
 #include <CustomControls/menus/MenuKeyboard.h>
 
 #include <QCoreApplication>
@@ -22,6 +23,9 @@
 #include <utility>
 
 namespace {
+
+using MenuHelpers::IsEnabledItself;
+using MenuHelpers::WidgetSize;
 
 constexpr int kRowStretch = 1;
 constexpr int kSubMenuRowStretch = 4;
@@ -51,17 +55,6 @@ const QString kWhitePanel =
     QStringLiteral("QWidget#m_widgetMenu{background-color:#FFFFFF;border:1px solid #a1a1a1;border-radius:4px;}");
 const QString kSplitSheet = QStringLiteral("background:transparent;");
 const QString kLineSheet = QStringLiteral("background:#535557;");
-
-int WidgetSize(qint64 pixels)
-{
-    return int(std::clamp<qint64>(pixels, 0, QWIDGETSIZE_MAX));
-}
-
-// Whether a row or separator itself is enabled, whatever the menu or its window is.
-bool IsPresent(const QWidget* entry)
-{
-    return entry->isEnabledTo(entry->parentWidget());
-}
 
 const AccessibleFactory::Registration<CCustomMenu, CCustomMenuAccessible> kAccessible;
 
@@ -281,7 +274,7 @@ void CCustomMenu::HideMenuBtn(const QList<QString>& texts)
     // By index: a chosen row that is hidden says so, and whoever hears it may remove others.
     for (int index = 0; index < m_listButtons.size(); ++index) {
         CCustomMenuItem* row = m_listButtons.at(index);
-        if (IsPresent(row) && wanted.contains(row->text())) {
+        if (IsEnabledItself(row) && wanted.contains(row->text())) {
             row->SetEnabled(false);
             row->hide();
             --m_iButtonCount;
@@ -296,7 +289,7 @@ void CCustomMenu::ShowMenuBtn(const QList<QString>& texts)
     // By index: one that comes under the cursor is entered at once, and whoever hears it may remove others.
     for (int index = 0; index < m_listButtons.size(); ++index) {
         CCustomMenuItem* row = m_listButtons.at(index);
-        if (!IsPresent(row) && wanted.contains(row->text())) {
+        if (!IsEnabledItself(row) && wanted.contains(row->text())) {
             row->SetEnabled(true);
             row->show();
             ++m_iButtonCount;
@@ -308,7 +301,7 @@ void CCustomMenu::ShowMenuBtn(const QList<QString>& texts)
 void CCustomMenu::HideSplitLine(int index)
 {
     QWidget* line = m_listSplitLines.value(index);
-    if (line && IsPresent(line)) {
+    if (line && IsEnabledItself(line)) {
         line->hide();
         line->setEnabled(false);
         --m_iSplitCount;
@@ -319,7 +312,7 @@ void CCustomMenu::HideSplitLine(int index)
 void CCustomMenu::ShowSplitLine(int index)
 {
     QWidget* line = m_listSplitLines.value(index);
-    if (line && !IsPresent(line)) {
+    if (line && !IsEnabledItself(line)) {
         line->show();
         line->setEnabled(true);
         ++m_iSplitCount;
@@ -510,7 +503,7 @@ void CCustomMenu::ItemGone(CCustomMenuItem* item)
 void CCustomMenu::SplitLineGone(QWidget* line)
 {
     if (m_listSplitLines.removeOne(line)) {
-        m_iSplitCount = int(std::count_if(m_listSplitLines.cbegin(), m_listSplitLines.cend(), IsPresent));
+        m_iSplitCount = int(std::count_if(m_listSplitLines.cbegin(), m_listSplitLines.cend(), IsEnabledItself));
         RefreshSizeLater();
     }
 }

@@ -6,6 +6,7 @@
 #include <CorvaneBase/CorvaneTextHelper.h>
 #include <CustomControls/accessibility/AccessibleFactory.h>
 #include <CustomControls/menus/CCustomMenuItemAccessible.h>
+#include <CustomControls/menus/MenuHelpers_p.h>
 
 #include <QCursor>
 #include <QEvent>
@@ -14,6 +15,9 @@
 #include <algorithm>
 
 namespace {
+
+using MenuHelpers::Wear;
+using MenuHelpers::WidgetSize;
 
 constexpr int kIconEdge = 16;
 constexpr int kArrowEdge = 10;
@@ -46,19 +50,6 @@ RowColors ColorsOf(MenuStyle style)
                 QStringLiteral("#0071bc")};
     }
     return {QStringLiteral("#FFFFFF"), QStringLiteral("#181818"), QStringLiteral("#FFFFFF"), QStringLiteral("#016ACB")};
-}
-
-// The toolkit parses a sheet anew and polishes all children, also when it is the one that the widget already wears.
-void Wear(QWidget* widget, const QString& sheet)
-{
-    if (widget->styleSheet() != sheet) {
-        widget->setStyleSheet(sheet);
-    }
-}
-
-int WidgetSize(qint64 pixels)
-{
-    return int(std::clamp<qint64>(pixels, 0, QWIDGETSIZE_MAX));
 }
 
 const AccessibleFactory::Registration<CCustomMenuItem, CCustomMenuItemAccessible> kAccessible;

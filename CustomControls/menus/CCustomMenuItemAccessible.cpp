@@ -2,6 +2,7 @@
 
 #include <CustomControls/menus/CCustomMenu.h>
 #include <CustomControls/menus/CCustomMenuItem.h>
+#include <CustomControls/menus/MenuHelpers_p.h>
 #include <CustomControls/menus/MenuKeyboard.h>
 
 CCustomMenuItemAccessible::CCustomMenuItemAccessible(CCustomMenuItem* item)
@@ -34,7 +35,7 @@ QAccessible::State CCustomMenuItemAccessible::state() const
 QAccessibleInterface* CCustomMenuItemAccessible::parent() const
 {
     const auto* item = qobject_cast<CCustomMenuItem*>(object());
-    CCustomMenu* menu = item ? MenuKeyboard::MenuOf(item) : nullptr;
+    CCustomMenu* menu = item ? MenuHelpers::MenuOf<CCustomMenu>(item) : nullptr;
     return menu ? QAccessible::queryAccessibleInterface(menu) : AccessibleControl::parent();
 }
 

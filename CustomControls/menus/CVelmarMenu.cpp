@@ -7,6 +7,7 @@
 #include <CustomControls/buttons/CVelmarButton.h>
 #include <CustomControls/menus/CVelmarMenuAccessible.h>
 #include <CustomControls/menus/CVelmarMenuItem.h>
+#include <CustomControls/menus/MenuHelpers_p.h>
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -25,6 +26,9 @@
 #include <utility>
 
 namespace {
+
+using MenuHelpers::IsEnabledItself;
+using MenuHelpers::WidgetSize;
 
 constexpr int kRowStretch = 4;
 constexpr int kListRowStretch = 0;
@@ -104,17 +108,6 @@ const QString* SheetOf(const SheetsOfStyles& sheets, MenuStyle style)
 {
     const int index = int(style);
     return index >= 0 && index < int(sheets.size()) ? &sheets[std::size_t(index)] : nullptr;
-}
-
-int WidgetSize(qint64 pixels)
-{
-    return int(std::clamp<qint64>(pixels, 0, QWIDGETSIZE_MAX));
-}
-
-// Whether a row or separator itself is enabled, whatever the menu or its window is.
-bool IsEnabledItself(const QWidget* entry)
-{
-    return entry->isEnabledTo(entry->parentWidget());
 }
 
 // Whether a row was hidden by name: one that was never on the screen is to come with its menu.

@@ -5,6 +5,7 @@
 #include <CorvaneBase/CorvaneFonts.h>
 #include <CustomControls/accessibility/AccessibleFactory.h>
 #include <CustomControls/menus/CVelmarMenuItemAccessible.h>
+#include <CustomControls/menus/MenuHelpers_p.h>
 
 #include <QEvent>
 #include <QMouseEvent>
@@ -13,6 +14,8 @@
 #include <algorithm>
 
 namespace {
+
+using MenuHelpers::Wear;
 
 // The host's resources hold both.
 const QString kArrow = QStringLiteral(":/mainwindow/ico_current_arrow_right_black.png");
@@ -38,14 +41,6 @@ const QString kLeftTextSheet = QStringLiteral("QLabel{color:%1;background:transp
 const QString kFocusTextSheet = QStringLiteral("QLabel{color:%1;background:%2;}QLabel:disabled{color:%3}");
 const QString kHoverTextSheet =
     QStringLiteral("QLabel{color:%1;background:%2;}QLabel:disabled{color:%3;background:transparent;}");
-
-// The toolkit parses a sheet anew also when it is the one that the widget already wears.
-void Wear(QWidget* widget, const QString& sheet)
-{
-    if (widget->styleSheet() != sheet) {
-        widget->setStyleSheet(sheet);
-    }
-}
 
 const AccessibleFactory::Registration<CVelmarMenuItem, CVelmarMenuItemAccessible> kAccessible;
 

@@ -2,20 +2,7 @@
 
 #include <CustomControls/menus/CVelmarMenu.h>
 #include <CustomControls/menus/CVelmarMenuItem.h>
-
-namespace {
-
-CVelmarMenu* MenuOf(const QWidget* item)
-{
-    for (QWidget* ancestor = item->parentWidget(); ancestor; ancestor = ancestor->parentWidget()) {
-        if (auto* menu = qobject_cast<CVelmarMenu*>(ancestor)) {
-            return menu;
-        }
-    }
-    return nullptr;
-}
-
-} // namespace
+#include <CustomControls/menus/MenuHelpers_p.h>
 
 CVelmarMenuItemAccessible::CVelmarMenuItemAccessible(CVelmarMenuItem* item)
     : AccessibleControl(item, QAccessible::MenuItem)
@@ -33,7 +20,7 @@ QAccessible::State CVelmarMenuItemAccessible::state() const
 {
     QAccessible::State state = AccessibleControl::state();
     if (auto* item = qobject_cast<CVelmarMenuItem*>(object())) {
-        const CVelmarMenu* menu = MenuOf(item);
+        const CVelmarMenu* menu = MenuHelpers::MenuOf<CVelmarMenu>(item);
         state.hasPopup = item->m_bHasSubMenu;
         state.focusable = item->isEnabled();
         state.focused = menu && menu->m_pKeyRow == item && menu->isVisible();
@@ -43,7 +30,7 @@ QAccessible::State CVelmarMenuItemAccessible::state() const
 
 QAccessibleInterface* CVelmarMenuItemAccessible::parent() const
 {
-    CVelmarMenu* menu = widget() ? MenuOf(widget()) : nullptr;
+    CVelmarMenu* menu = widget() ? MenuHelpers::MenuOf<CVelmarMenu>(widget()) : nullptr;
     return menu ? QAccessible::queryAccessibleInterface(menu) : AccessibleControl::parent();
 }
 

@@ -3,6 +3,7 @@
 #include <CustomControls/accessibility/AccessibleControl.h>
 #include <CustomControls/menus/CCustomMenu.h>
 #include <CustomControls/menus/CCustomMenuItem.h>
+#include <CustomControls/menus/MenuHelpers_p.h>
 
 #include <QKeyEvent>
 #include <QPointer>
@@ -73,7 +74,7 @@ void MenuKeyboard::Activate(CCustomMenuItem* item)
     if (!item->isEnabled()) {
         return;
     }
-    CCustomMenu* menu = MenuOf(item);
+    CCustomMenu* menu = MenuHelpers::MenuOf<CCustomMenu>(item);
     CCustomMenu* subMenu = menu ? menu->GetCustomMenu(item) : nullptr;
     if (subMenu) {
         const QPointer<CCustomMenu> opening(subMenu);
@@ -88,24 +89,14 @@ void MenuKeyboard::Activate(CCustomMenuItem* item)
 
 bool MenuKeyboard::IsAt(const CCustomMenuItem* item)
 {
-    const CCustomMenu* menu = MenuOf(item);
+    const CCustomMenu* menu = MenuHelpers::MenuOf<CCustomMenu>(item);
     return menu && menu->m_pCurrentItem == item && menu->isVisible();
-}
-
-CCustomMenu* MenuKeyboard::MenuOf(const CCustomMenuItem* item)
-{
-    for (QWidget* ancestor = item->parentWidget(); ancestor; ancestor = ancestor->parentWidget()) {
-        if (auto* menu = qobject_cast<CCustomMenu*>(ancestor)) {
-            return menu;
-        }
-    }
-    return nullptr;
 }
 
 // False when the row or its menu did not survive it.
 bool MenuKeyboard::Choose(CCustomMenuItem* item)
 {
-    const QPointer<CCustomMenu> menu(MenuOf(item));
+    const QPointer<CCustomMenu> menu(MenuHelpers::MenuOf<CCustomMenu>(item));
     const QPointer<CCustomMenuItem> row(item);
     // As when the pointer enters another row: what an earlier one has opened goes.
     if (menu && menu->m_pOpenSubMenu && menu->m_pOpenSubMenu != menu->GetCustomMenu(item)) {

@@ -25,7 +25,6 @@ public:
     /** What a click on the row does. On a row with a sub-menu: opens it and goes to its first row. */
     static void Activate(CCustomMenuItem* item);
     static bool IsAt(const CCustomMenuItem* item);
-    static CCustomMenu* MenuOf(const CCustomMenuItem* item);
 
 private:
     static bool Choose(CCustomMenuItem* item);
