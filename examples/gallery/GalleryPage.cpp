@@ -1,5 +1,6 @@
 #include "GalleryPage.h"
 
+#include "GalleryCommands.h"
 #include "GalleryStyle.h"
 #include "windows/SourceDialog.h"
 
@@ -133,13 +134,7 @@ QLabel* GalleryPage::AddOutcomeLine(const QString& objectName)
 
 QPushButton* GalleryPage::CreateCommand(const QString& text, const QString& objectName, bool primary)
 {
-    auto* button = new QPushButton(text);
-    button->setObjectName(objectName);
-    button->setFont(FontCnMedium_14);
-    button->setFixedHeight(34);
-    button->setCursor(Qt::PointingHandCursor);
-    button->setStyleSheet(GalleryStyle::CommandButton(primary));
-    return button;
+    return GalleryCommands::Create(text, objectName, primary);
 }
 
 QLabel* GalleryPage::CreateCaption(const QString& text)

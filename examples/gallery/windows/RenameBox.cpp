@@ -1,6 +1,6 @@
 #include "RenameBox.h"
 
-#include "../GalleryStyle.h"
+#include "../GalleryCommands.h"
 
 #include <CorvaneBase/CorvaneFonts.h>
 #include <CustomControls/messagebox/CMsgBoxBackground.h>
@@ -39,30 +39,18 @@ RenameBox::RenameBox(const QString& name, QWidget* parent)
     m_pName->setFixedHeight(34);
     m_pName->setStyleSheet(QLatin1String(FieldSheet));
     m_pName->selectAll();
-    auto* cancel = new QPushButton(tr("取消"));
-    cancel->setObjectName(QStringLiteral("renameCancel"));
-    cancel->setStyleSheet(GalleryStyle::CommandButton(false));
-    auto* confirm = new QPushButton(tr("确定"));
-    confirm->setObjectName(QStringLiteral("renameConfirm"));
-    confirm->setStyleSheet(GalleryStyle::CommandButton(true));
+    QPushButton* cancel = GalleryCommands::Create(tr("取消"), QStringLiteral("renameCancel"));
+    QPushButton* confirm = GalleryCommands::Create(tr("确定"), QStringLiteral("renameConfirm"), true);
     connect(cancel, &QPushButton::clicked, this, &QWidget::close);
     connect(confirm, &QPushButton::clicked, this, &RenameBox::SlotConfirm);
 
-    auto* commands = new QHBoxLayout;
-    commands->setSpacing(12);
-    commands->addStretch(1);
-    for (QPushButton* button : {cancel, confirm}) {
-        button->setFont(FontCnMedium_14);
-        button->setFixedSize(88, 34);
-        commands->addWidget(button);
-    }
     auto* column = new QVBoxLayout(panel);
     column->setContentsMargins(20, 14, 20, 16);
     column->setSpacing(14);
     column->addWidget(title);
     column->addWidget(m_pName);
     column->addStretch(1);
-    column->addLayout(commands);
+    column->addLayout(GalleryCommands::Row({cancel, confirm}, 88));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(panel);

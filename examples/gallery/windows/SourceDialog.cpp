@@ -1,8 +1,9 @@
 #include "SourceDialog.h"
 
+#include "../GalleryCommands.h"
 #include "../GallerySource.h"
 #include "../GalleryStyle.h"
-#include "../GalleryTitleBar.h"
+#include "DialogFrame.h"
 #include "SourceHighlighter.h"
 
 #include <CorvaneBase/CorvaneFonts.h>
@@ -25,7 +26,6 @@ namespace {
 constexpr QSize DialogSize(820, 620);
 constexpr int TextPixels = 13;
 constexpr int TabColumns = 4;
-constexpr auto DialogSheet = "#sourceDialog{background:#ffffff;border:1px solid #2b2f33;}";
 constexpr auto TextSheet = "#sourceText{background:#fbfbfb;border:1px solid #e2e2e2;border-radius:4px;padding:8px;"
                            "color:#333333;}";
 
@@ -42,11 +42,10 @@ SourceDialog::SourceDialog(QWidget* window)
     // The browser has no installed header: a host makes it by name and uses it as what it derives from.
     , m_pText(qobject_cast<QTextEdit*>(static_cast<QObject*>(QMetaType::fromName("CTextBrowser").create())))
     , m_pCopied(new QLabel)
-    , m_pCopy(new QPushButton)
-    , m_pClose(new QPushButton)
+    , m_pCopy(GalleryCommands::Create(QString(), QStringLiteral("sourceCopy"), true))
+    , m_pClose(GalleryCommands::Create(QString(), QStringLiteral("sourceClose")))
 {
     setObjectName(QStringLiteral("sourceDialog"));
-    setStyleSheet(QLatin1String(DialogSheet));
     setAttribute(Qt::WA_DeleteOnClose);
     resize(DialogSize.boundedTo(screen()->availableSize()));
 
@@ -61,36 +60,14 @@ SourceDialog::SourceDialog(QWidget* window)
     m_pCopied->setObjectName(QStringLiteral("sourceCopied"));
     m_pCopied->setFont(FontCn_13);
     m_pCopied->setStyleSheet(QStringLiteral("color:%1;").arg(QLatin1String(GalleryStyle::Green)));
-    m_pCopy->setObjectName(QStringLiteral("sourceCopy"));
-    m_pCopy->setStyleSheet(GalleryStyle::CommandButton(true));
-    m_pClose->setObjectName(QStringLiteral("sourceClose"));
-    m_pClose->setStyleSheet(GalleryStyle::CommandButton(false));
-    auto* commands = new QHBoxLayout;
-    commands->setSpacing(12);
-    commands->addWidget(m_pCopied);
-    commands->addStretch(1);
-    for (QPushButton* button : {m_pClose, m_pCopy}) {
-        button->setFont(FontCnMedium_14);
-        button->setFixedHeight(34);
-        button->setMinimumWidth(96);
-        button->setCursor(Qt::PointingHandCursor);
-        commands->addWidget(button);
-    }
     connect(m_pCopy, &QPushButton::clicked, this, &SourceDialog::Copy);
     connect(m_pClose, &QPushButton::clicked, this, &QWidget::close);
 
-    auto* bar = new GalleryTitleBar(this, GalleryTitleBar::ButtonMaximize | GalleryTitleBar::ButtonClose);
-    setTitleBar(bar);
     auto* body = new QVBoxLayout;
-    body->setContentsMargins(20, 20, 20, 16);
-    body->setSpacing(16);
-    body->addWidget(m_pText, 1);
-    body->addLayout(commands);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(1, 0, 1, 1); // beside the border
-    layout->setSpacing(0);
-    layout->addWidget(bar);
-    layout->addLayout(body, 1);
+    body->addWidget(m_pText);
+    QHBoxLayout* commands = GalleryCommands::Row({m_pClose, m_pCopy}, 96);
+    commands->insertWidget(0, m_pCopied);
+    DialogFrame::Fill(this, body, commands);
     Retranslate();
 }
 

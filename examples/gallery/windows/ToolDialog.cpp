@@ -1,7 +1,8 @@
 #include "ToolDialog.h"
 
+#include "../GalleryCommands.h"
 #include "../GalleryStyle.h"
-#include "../GalleryTitleBar.h"
+#include "DialogFrame.h"
 
 #include <CorvaneBase/CorvaneFonts.h>
 
@@ -15,7 +16,6 @@
 
 namespace {
 constexpr int PictureSize = 96;
-constexpr auto DialogSheet = "#toolDialog{background:#ffffff;border:1px solid #2b2f33;}";
 constexpr auto FieldSheet = "QLineEdit{border:1px solid #c4c4c4;border-radius:4px;padding:0 10px;color:#333333;"
                             "background:#ffffff;}QLineEdit:focus{border-color:#188553;}";
 constexpr auto PictureSheet = "QLabel{background:#f6f6f6;border-radius:8px;}";
@@ -35,7 +35,6 @@ ToolDialog::ToolDialog(QWidget* parent)
     , m_pName(CreateField(QStringLiteral("toolName"), tr("球头刀 R3")))
 {
     setObjectName(QStringLiteral("toolDialog"));
-    setStyleSheet(QLatin1String(DialogSheet));
     setWindowTitle(tr("编辑刀具"));
     resize(540, 340);
     setMinimumSize(480, 320);
@@ -64,37 +63,16 @@ ToolDialog::ToolDialog(QWidget* parent)
     content->addWidget(picture, 0, Qt::AlignTop);
     content->addLayout(form, 1);
 
-    auto* cancel = new QPushButton(tr("取消"));
-    cancel->setObjectName(QStringLiteral("toolCancel"));
-    cancel->setStyleSheet(GalleryStyle::CommandButton(false));
-    auto* save = new QPushButton(tr("保存"));
-    save->setObjectName(QStringLiteral("toolSave"));
-    save->setStyleSheet(GalleryStyle::CommandButton(true));
+    QPushButton* cancel = GalleryCommands::Create(tr("取消"), QStringLiteral("toolCancel"));
+    QPushButton* save = GalleryCommands::Create(tr("保存"), QStringLiteral("toolSave"), true);
     save->setDefault(true);
-    auto* commands = new QHBoxLayout;
-    commands->setSpacing(12);
-    commands->addStretch(1);
-    for (QPushButton* button : {cancel, save}) {
-        button->setFont(FontCnMedium_14);
-        button->setFixedSize(96, 34);
-        button->setCursor(Qt::PointingHandCursor);
-        commands->addWidget(button);
-    }
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(save, &QPushButton::clicked, this, &QDialog::accept);
 
-    auto* bar = new GalleryTitleBar(this, GalleryTitleBar::ButtonMaximize | GalleryTitleBar::ButtonClose);
-    setTitleBar(bar);
     auto* body = new QVBoxLayout;
-    body->setContentsMargins(24, 24, 24, 20);
     body->addLayout(content);
     body->addStretch(1);
-    body->addLayout(commands);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(1, 0, 1, 1); // beside the border
-    layout->setSpacing(0);
-    layout->addWidget(bar);
-    layout->addLayout(body, 1);
+    DialogFrame::Fill(this, body, GalleryCommands::Row({cancel, save}, 96));
     m_pName->selectAll();
     m_pName->setFocus();
 }
