@@ -120,8 +120,8 @@ CProgressWidget::CProgressWidget(QWidget* parent)
     m_pBtnClose->setStyleSheet(QString::fromLatin1(kCloseButtonSheet));
     m_pBtnClose->setFixedSize(kCloseButtonSize, kCloseButtonSize);
     m_pBtnClose->move(width() - kCloseButtonSize - kCloseButtonMargin, kCloseButtonMargin);
-    SetTranslatedName(m_pBtnClose, [] { return tr("关闭"); });
     KeyboardFocus::ShowOn(m_pBtnClose);
+    SetTranslatedName(m_pBtnClose, [] { return tr("关闭"); });
     m_pBtnClose->show();
     connect(m_pBtnClose, &QPushButton::clicked, this, &CProgressWidget::SlotClose);
 

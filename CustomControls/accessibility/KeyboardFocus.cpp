@@ -65,7 +65,7 @@ public:
             break;
         case QEvent::Paint:
             if (m_bShown && watched == m_pControl) {
-                watched->event(event);
+                watched->event(event); // all other filters have let it pass: this one is asked last
                 if (m_pControl) {
                     Paint();
                 }

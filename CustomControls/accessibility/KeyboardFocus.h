@@ -8,7 +8,10 @@ class QWidget;
  */
 namespace KeyboardFocus {
 
-/** Has the ring drawn on @p control, or around a QTabBar's current tab, from now on. Calling it again changes nothing.
+/**
+ * Has the ring drawn on @p control, or around a QTabBar's current tab, from now on. To be called once, before any other
+ * filter is installed on the control: the first one is asked last, and the ring, which has the control painted before
+ * itself, then passes over nobody who wants to see or to take the painting.
  */
 void ShowOn(QWidget* control);
 

@@ -24,8 +24,8 @@ CVelmarSelectBox::CVelmarSelectBox(QWidget* parent)
     const QIcon icon(QStringLiteral(":/icon/selectbox/base/icon_scanning_right_inf_maopi.png"));
     ui->m_labelBoxIcon->setPixmap(icon.pixmap(BoxIconSize, QIcon::Normal, QIcon::Off));
     ui->m_labelHint->hide();
-    SetTranslatedName(ui->m_btnClose, [] { return tr("关闭"); });
     KeyboardFocus::ShowOn(ui->m_btnClose);
+    SetTranslatedName(ui->m_btnClose, [] { return tr("关闭"); });
     KeyboardFocus::ShowOn(ui->m_btnConfirm);
     setAttribute(Qt::WA_DeleteOnClose, true);
     SetFont();

@@ -69,8 +69,8 @@ CToolButton::CToolButton(QWidget* parent)
     setFont(FontCnMedium_13);
     // Not every style asks for the hover events that the fill follows.
     setAttribute(Qt::WA_Hover);
-    installEventFilter(this);
     KeyboardFocus::ShowOn(this);
+    installEventFilter(this);
 }
 
 void CToolButton::SetSharedWidth(int width)

@@ -114,6 +114,35 @@ private Q_SLOTS:
         QCOMPARE(AccessibleName(overflow), QStringLiteral("More tools"));
     }
 
+    void ringPassesOverNoFilterThatSeesThePainting()
+    {
+        struct Watching : CToolButton
+        {
+            using CToolButton::CToolButton;
+            bool eventFilter(QObject* watched, QEvent* event) override
+            {
+                m_iPaints += event->type() == QEvent::Paint ? 1 : 0;
+                return CToolButton::eventFilter(watched, event);
+            }
+            int m_iPaints = 0;
+        };
+        QWidget window;
+        auto* other = new QWidget(&window);
+        other->setFocusPolicy(Qt::StrongFocus);
+        Watching button(&window);
+        button.setText(QStringLiteral("仿真"));
+        button.resize(60, 60);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        other->setFocus();
+        button.setFocus(Qt::TabFocusReason);
+        QVERIFY(KeyboardFocus::IsShownOn(&button));
+        button.m_iPaints = 0;
+        const QImage image = button.grab().toImage();
+        QCOMPARE(button.m_iPaints, 1);
+        QCOMPARE(image.pixelColor(30, 0), QColor(0x18, 0x85, 0x53));
+    }
+
     void ringStandsAroundTheCurrentTab()
     {
         QWidget window;
