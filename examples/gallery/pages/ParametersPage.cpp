@@ -317,6 +317,7 @@ void ParametersPage::AddFunctions(CFunctionBtnWidget* strip, QListWidget* list)
         button->setObjectName(QLatin1String(function.name));
         button->SetButtonIcon(icon, icon, icon, icon);
         button->SetBackgroundSolid(function.normal, function.pressed, function.hover, function.normal);
+        button->UpdateContentSize(); // the strip counts with the regular font; bold Latin letters are wider
         button->setCursor(Qt::PointingHandCursor);
     }
     connect(buttons.first(), &CVelmarButton::SignalClicked, this, [this, list] {
