@@ -97,6 +97,28 @@ if(NOT PROJECT_IS_TOP_LEVEL)
 endif()
 install(FILES "${PROJECT_SOURCE_DIR}/LICENSE" DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/customcontrols"
     RENAME copyright COMPONENT Runtime)
+# The pages lie as in the source tree, so that their links lead on here too: to each other, to the smallest host, to the
+# images that a host supplies, and by a link of the file system to the headers.
+set(customcontrols_docdir "${CMAKE_INSTALL_DATADIR}/doc/customcontrols")
+install(FILES "${PROJECT_SOURCE_DIR}/README.md" "${PROJECT_SOURCE_DIR}/CHANGELOG.md" "${PROJECT_SOURCE_DIR}/LICENSE"
+    DESTINATION "${customcontrols_docdir}" COMPONENT Development)
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/docs" DESTINATION "${customcontrols_docdir}" COMPONENT Development
+    FILES_MATCHING PATTERN "*.md" PATTERN "*.png" PATTERN "docs/examples" EXCLUDE PATTERN "docs/host" EXCLUDE)
+foreach(folder CorvaneBase benchmarks designer)
+    install(FILES "${PROJECT_SOURCE_DIR}/${folder}/README.md" DESTINATION "${customcontrols_docdir}/${folder}"
+        COMPONENT Development)
+endforeach()
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/examples/hello" DESTINATION "${customcontrols_docdir}/examples"
+    COMPONENT Development)
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/examples/gallery/resources"
+    DESTINATION "${customcontrols_docdir}/examples/gallery" COMPONENT Development)
+if(UNIX)
+    file(RELATIVE_PATH customcontrols_headers "${CMAKE_INSTALL_FULL_DATADIR}/doc/customcontrols"
+        "${CMAKE_INSTALL_FULL_INCLUDEDIR}/CustomControls")
+    install(CODE "file(CREATE_LINK \"${customcontrols_headers}\"
+        \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${customcontrols_docdir}/CustomControls\" SYMBOLIC)"
+        COMPONENT Development)
+endif()
 set(CPACK_PACKAGE_NAME customcontrols)
 set(CPACK_PACKAGE_VENDOR "CustomControls")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "House set of controls and dialogs of a desktop CAM application")

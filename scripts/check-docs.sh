@@ -65,7 +65,7 @@ for text in "${texts[@]}"; do
     fi
 done
 
-# Pages of classes that a host makes by name alone stand beside those of exported ones.
+# Pages of classes that a host makes by name alone stand beside those of exported ones; their headers are not installed.
 declare -A headers=([CPlainTextEdit]=CustomControls/fields/CPlainTextEdit.h
     [CTextBrowser]=CustomControls/fields/CTextBrowser.h)
 while IFS=: read -r header name; do
@@ -78,7 +78,9 @@ for name in "${!headers[@]}"; do
     page=docs/controls/$name.md
     check
     [ -f "$page" ] || { problem "$header" "$name has no $page"; continue; }
-    grep -qF "](../../$header)" "$page" || problem "$page" "it does not link to $header"
+    link="](../../$header)"
+    grep -q "^class CUSTOMCONTROLS_EXPORT $name\b\|^CUSTOMCONTROLS_EXPORT" "$header" || link="\`$header\`" # not installed
+    grep -qF "$link" "$page" || problem "$page" "it does not tell of $header"
     grep -qE '^!\[.+\]\(\.\./images/controls/.+\.png\)' "$page" || problem "$page" "it has no picture"
     grep -qF "<!-- from: docs/examples/$name.cpp -->" "$page" || problem "$page" "it has no example"
     for heading in Example Operations Signals Traps; do

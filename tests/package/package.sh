@@ -38,6 +38,18 @@ expect_file() {
     done
 }
 
+# The documentation is installed whole: every link of its pages leads somewhere, and hello is there to be copied.
+expect_documentation() {
+    local folder=$1 page link
+    expect_file "$folder"/{README.md,CHANGELOG.md,docs/hosting.md,docs/controls/README.md,docs/images/gallery.png} \
+        "$folder"/examples/hello/{CMakeLists.txt,main.cpp} "$folder"/examples/gallery/resources/gallery.qrc
+    while IFS=: read -r page link; do
+        [ -e "$(dirname "$page")/${link%%#*}" ] || { echo "$page: the link to $link leads nowhere"; exit 1; }
+    done < <(grep -rHoP --include='*.md' '\]\(\K(?!https?:|#)[^) ]+(?=\))' "$folder")
+    page=$(find "$folder/docs" -type f ! -name '*.md' ! -name '*.png')
+    [ -z "$page" ] || { echo "installed for nobody: $page"; exit 1; }
+}
+
 case $kind in
 Installed)
     prefix=$work/prefix
@@ -55,7 +67,8 @@ Installed)
     g++ -std=c++17 -fPIC -fsyntax-only -I"$prefix/include" "$work/headers.cpp" \
         $(PKG_CONFIG_PATH=$library/pkgconfig pkg-config --cflags CustomControls)
 
-    configure "$source/examples/hello" "$work/hello" -DCMAKE_PREFIX_PATH="$prefix"
+    expect_documentation "$prefix/share/doc/customcontrols"
+    configure "$prefix/share/doc/customcontrols/examples/hello" "$work/hello" -DCMAKE_PREFIX_PATH="$prefix"
     greet "$work/hello/hello"
     # What exists is found, and nothing else.
     mkdir "$work/finding"
@@ -186,6 +199,7 @@ Deb)
         "$root"/usr/include/CustomControls/buttons/CVelmarButton.h "$root"/usr/include/CorvaneBase/CorvaneFonts.h \
         "$root"/usr/share/CustomControls/translations/CustomControls_en.qm \
         "$root"/usr/share/doc/customcontrols/copyright "$root"/usr/bin/{gallery,machine-simulator}
+    expect_documentation "$root/usr/share/doc/customcontrols"
     designer=$(find "$root" -path '*/plugins/designer/libCustomControlsDesigner.so')
     if grep -q '^CUSTOMCONTROLS_HAS_DESIGNER:INTERNAL=TRUE$' "$build/CMakeCache.txt"; then
         expect_file "$designer"
