@@ -73,7 +73,8 @@ for target in "${targets[@]}"; do
         failed=$((failed + 1))
         grep -nE 'does not hold|ERROR: |SUMMARY: |runtime error: |Test unit written|^ *#[0-9]+ .*(CustomControls|CorvaneBase)/' \
             "build/fuzz/$target.log" | head -n 20
-        echo "   the whole of it: build/fuzz/$target.log; again: build/fuzz/fuzz/$target build/fuzz/findings/FILE"
+        echo "$target failed; the whole of it: build/fuzz/$target.log; again: build/fuzz/fuzz/$target build/fuzz/findings/FILE" |
+            tee -a "${FAILURES:-/dev/null}"
     else
         passed=$((passed + 1))
     fi

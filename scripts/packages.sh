@@ -56,15 +56,96 @@ build_preset() {
     cmake --build --preset "$preset" "${targets[@]}"
 }
 
-# Shows what of a verbose ctest log needs a look, ctest's own summary, and the sum of Qt Test's closing lines, which it
-# leaves in passed, failed and skipped.
+# Reads a verbose ctest log: first a line with what passed, failed and was skipped, then what the failed tests said.
+# Only the last try of a test counts. A Qt Test program counts by its functions, every other test as one, by ctest's own
+# verdict; so does a program that fails though none of its functions did, by a leak or a crash.
+read_log() {
+    awk '
+    function forget(n) { functions[n] = p[n] = f[n] = s[n] = count[n] = quoting[n] = 0; verdict[n] = said[n] = "" }
+    /^ +Start +[0-9]+: / {
+        n = $2; sub(/:.*/, "", n)
+        if (!(n in name)) order[++all] = n
+        name[n] = $0; sub(/^ +Start +[0-9]+: /, "", name[n])
+        forget(n)
+        next
+    }
+    /^[0-9]+: / {
+        n = $1; sub(/:.*/, "", n)
+        line = $0; sub(/^[0-9]+: /, "", line)
+        if (line ~ /^(Test command:|Working Directory:|Test timeout computed|Environment variables:)|^ [A-Z_]+=/) next
+        last[n, ++count[n] % 15] = line
+        if (line ~ /^Totals: [0-9]+ passed, [0-9]+ failed, [0-9]+ skipped/) {
+            split(line, word, " ")
+            functions[n] = 1; p[n] += word[2]; f[n] += word[4]; s[n] += word[6]
+        }
+        if (line ~ /^(FAIL!|XPASS|QFATAL)/) quoting[n] = 4
+        else if (line ~ /^(PASS|SKIP|Totals)/) quoting[n] = 0
+        if (quoting[n]-- > 0) said[n] = said[n] "   " line "\n"
+        next
+    }
+    # The verdict may stand on the next line, where other lines came between.
+    /^ *([0-9]+\/[0-9]+)? +Test +#[0-9]+: / {
+        match($0, /#[0-9]+:/)
+        judged = substr($0, RSTART + 1, RLENGTH - 2)
+    }
+    judged && /Passed|\*\*\*/ {
+        verdict[judged] = $0 ~ /\*\*\*(Skipped|Not Run \(Disabled\))/ ? "skipped" : $0 ~ /\*\*\*/ ? "failed" : "passed"
+        judged = 0
+    }
+    END {
+        for (i = 1; i <= all; ++i) {
+            n = order[i]
+            if (verdict[n] == "skipped") {
+                skipped += s[n] ? s[n] : 1
+                continue
+            }
+            passed += p[n]; skipped += s[n]
+            if (verdict[n] == "passed") {
+                passed += !functions[n]; failed += f[n]
+                continue
+            }
+            failed += f[n] ? f[n] : 1
+            text = text name[n] " failed:\n" said[n]
+            if (!f[n])
+                for (k = count[n] > 15 ? count[n] - 14 : 1; k <= count[n]; ++k)
+                    text = text "   " last[n, k % 15] "\n"
+        }
+        if (!all) { failed = 1; text = "no test was run\n" }
+        printf "%d %d %d\n%s", passed, failed, skipped, text
+    }' "$1"
+}
+
+# What fails is said where it fails, and once more by the outermost script right before its closing line, so that the end
+# of an output tells it all.
+start_report() {
+    report_is_own=
+    [ -z "${FAILURES:-}" ] || return 0
+    mkdir -p build
+    export FAILURES=$PWD/build/failures.log
+    : >"$FAILURES"
+    report_is_own=yes
+}
+
+close_report() { # PASSED FAILED SKIPPED
+    if [ -n "$report_is_own" ] && [ -s "$FAILURES" ]; then
+        say "What failed"
+        tail -n 100 "$FAILURES"
+    fi
+    printf '%d passed, %d failed, %d skipped\n' "$@"
+}
+
+# Shows what of a verbose ctest log needs a look, ctest's own summary, and the sums of the tests, which it leaves in
+# passed, failed and skipped.
 report_log() {
     local log=$1
     grep -E '^[0-9]+: (FAIL!|XPASS|SKIP|QFATAL|QWARN .*(QObject::connect|QPainter|QLayout))|ERROR: (Address|Leak)Sanitizer|runtime error:' \
         -A2 "$log" | sort -u | head -n 80 || true
     sed -n '/tests passed,/,$p' "$log"
-    read -r passed failed skipped < <(
-        sed -nE 's/^([0-9]+: )?Totals: ([0-9]+) passed, ([0-9]+) failed, ([0-9]+) skipped.*/\2 \3 \4/p' "$log" |
-            awk '{p += $1; f += $2; s += $3} END {print p + 0, f + 0, s + 0}')
+    local result
+    result=$(read_log "$log")
+    read -r passed failed skipped <<<"${result%%$'\n'*}"
+    if [ "$failed" -gt 0 ]; then
+        sed 1d <<<"$result" | tee -a "${FAILURES:-/dev/null}"
+    fi
     printf 'functions: %d passed, %d failed, %d skipped\n' "$passed" "$failed" "$skipped"
 }

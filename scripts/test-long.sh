@@ -43,8 +43,8 @@ for step in "${steps[@]}"; do
     declare -F "step_$step" >/dev/null || { sed -n '2,/^set /{/^set /!s/^# \{0,1\}//p}' "$0"; exit 2; }
 done
 
+start_report
 status=0 all_passed=0 all_failed=0 all_skipped=0 lines=()
-mkdir -p build
 for step in "${steps[@]}"; do
     say "Long step: $step"
     start=$SECONDS result=passed
@@ -52,13 +52,13 @@ for step in "${steps[@]}"; do
     bash -euo pipefail -c ". scripts/packages.sh; $(declare -f long_tests "step_$step"); step_$step" 2>&1 |
         tee "build/long-$step.log" || { result=FAILED status=1; }
     sums=$(grep -E '^[0-9]+ passed, [0-9]+ failed, [0-9]+ skipped$' "build/long-$step.log" | tail -n 1 || true)
-    [ -n "$sums" ] || { result="FAILED before its tests ended" status=1; }
-    read -r p f s < <(tr -dc '0-9 ' <<<"${sums:-0 0 0}")
+    [ -n "$sums" ] || { result="FAILED before its tests ended" status=1 sums="0 passed, 1 failed, 0 skipped"; }
+    read -r p f s < <(tr -dc '0-9 ' <<<"$sums")
     all_passed=$((all_passed + p)) all_failed=$((all_failed + f)) all_skipped=$((all_skipped + s))
     lines+=("$(printf '%-10s %5d s   %s: %s' "$step" $((SECONDS - start)) "$result" "$sums")")
 done
 
 say "Long steps"
 printf '%s\n' "${lines[@]}"
-printf '%d passed, %d failed, %d skipped\n' "$all_passed" "$all_failed" "$all_skipped"
+close_report "$all_passed" "$all_failed" "$all_skipped"
 exit "$status"

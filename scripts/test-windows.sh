@@ -59,6 +59,7 @@ say "Running the tests under $(wine --version 2>/dev/null || echo Wine), $desks 
 for desk in $(seq "$desks"); do
     open_desk "$WINE_DESKS/$desk"
 done
+start_report
 # Now and then Wine loses a click, or the news of a connection that is closed as soon as it is made: two more tries for a
 # test that met that; one that fails three times has failed.
 status=0
@@ -69,5 +70,5 @@ ctest --test-dir build/windows -L "unit|windows" -j "$desks" --repeat until-pass
 report_log "$log"
 grep -E '^[0-9]+: tour: ' "$log" || true
 say "Test functions under Wine, in $((SECONDS - start)) s"
-printf '%d passed, %d failed, %d skipped\n' "$passed" "$failed" "$skipped"
+close_report "$passed" "$failed" "$skipped"
 exit "$status"

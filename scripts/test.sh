@@ -22,6 +22,7 @@ require_packages "${PACKAGES_BUILD[@]}" "${PACKAGES_SHOW[@]}" "${PACKAGES_DISPLA
 say "Checking the format of the sources"
 scripts/check-format.sh
 
+start_report
 status=0 all_passed=0 all_failed=0 all_skipped=0
 
 # run_label PRESET LABEL [CTEST OPTIONS]
@@ -44,5 +45,5 @@ for preset in "${presets[@]}"; do
 done
 
 say "Test functions in all"
-printf '%d passed, %d failed, %d skipped\n' "$all_passed" "$all_failed" "$all_skipped"
+close_report "$all_passed" "$all_failed" "$all_skipped"
 exit "$status"
