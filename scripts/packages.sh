@@ -8,6 +8,7 @@ PACKAGES_DISPLAY=(xvfb xauth openbox x11-utils xcompmgr xdotool)
 PACKAGES_WINDOWS=(g++-mingw-w64-x86-64-posix wine wine64 xz-utils)
 PACKAGES_TEST=(git pkg-config iproute2 util-linux libbenchmark-dev binutils clang-format doxygen)
 PACKAGES_FUZZ=(clang libclang-rt-dev llvm)
+PACKAGES_TIDY=(clang-tidy)
 PACKAGES_MEMCHECK=(valgrind)
 PACKAGES_COVERAGE=(gcovr)
 

@@ -5,8 +5,10 @@
 #   memcheck  a subset of the unit tests under valgrind
 #   tsan      what works on several threads under the thread sanitizer
 #   coverage  the lines that the tests reach
-#   clang     everything built by Clang, whose warnings are errors
+#   clang     everything built by Clang, whose warnings are errors, and the two libraries read by clang-tidy
 #   fuzz      ten minutes for each fuzz target
+#   benchmark each control beside the toolkit's own counterpart
+#   deb       the Debian package on a bare Debian 12
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
@@ -31,13 +33,33 @@ step_memcheck() { scripts/memcheck.sh; }
 step_tsan() { scripts/tsan.sh; }
 step_coverage() { scripts/coverage.sh; }
 step_clang() {
-    require_packages "${PACKAGES_BUILD[@]}" "${PACKAGES_TEST[@]}" "${PACKAGES_FUZZ[@]}"
+    require_packages "${PACKAGES_BUILD[@]}" "${PACKAGES_TEST[@]}" "${PACKAGES_FUZZ[@]}" "${PACKAGES_TIDY[@]}"
     build_preset clang
-    echo "1 passed, 0 failed, 0 skipped"
+    say "clang-tidy on the two libraries"
+    local log=build/clang/tidy.log
+    if ! run-clang-tidy -quiet -p build/clang "^$PWD/(CustomControls|CorvaneBase)/.*\.cpp\$" >"$log" 2>/dev/null; then
+        grep -E -A3 '(warning|error): ' "$log" | head -n 80 | tee -a "$FAILURES" || true
+        echo "1 passed, 1 failed, 0 skipped"
+        return 1
+    fi
+    echo "2 passed, 0 failed, 0 skipped"
 }
 step_fuzz() { scripts/fuzz.sh --seconds 600; }
+step_benchmark() {
+    scripts/benchmark.sh
+    echo "1 passed, 0 failed, 0 skipped"
+}
+step_deb() {
+    if [ "$(id -u)" -ne 0 ]; then
+        say "Skipped: it needs root, for chroot"
+        echo "0 passed, 0 failed, 1 skipped"
+        return
+    fi
+    scripts/try-deb.sh
+    echo "1 passed, 0 failed, 0 skipped"
+}
 
-steps=(asan release memcheck tsan coverage clang fuzz)
+steps=(asan release memcheck tsan coverage clang fuzz benchmark deb)
 [ $# -eq 0 ] || steps=("$@")
 for step in "${steps[@]}"; do
     declare -F "step_$step" >/dev/null || { sed -n '2,/^set /{/^set /!s/^# \{0,1\}//p}' "$0"; exit 2; }
