@@ -68,8 +68,16 @@ Installed)
         $(PKG_CONFIG_PATH=$library/pkgconfig pkg-config --cflags CustomControls)
 
     expect_documentation "$prefix/share/doc/customcontrols"
+    expect_file "$prefix"/share/CustomControls/translations/CustomControls_en.qm
+    if grep -q '^CUSTOMCONTROLS_HAS_DESIGNER:INTERNAL=TRUE$' "$build/CMakeCache.txt"; then
+        expect_file "$(find "$prefix" -path '*/plugins/designer/libCustomControlsDesigner.so')"
+    fi
+
     configure "$prefix/share/doc/customcontrols/examples/hello" "$work/hello" -DCMAKE_PREFIX_PATH="$prefix"
     greet "$work/hello/hello"
+    # The host of docs/hosting.md, as its reader builds it.
+    configure "$source/docs/host" "$work/host" -DCMAKE_PREFIX_PATH="$prefix"
+    HOME=$work timeout 60 "$work/host/host" --once || { echo "the host of docs/hosting.md ended with $?"; exit 1; }
     # What exists is found, and nothing else.
     mkdir "$work/finding"
     cat >"$work/finding/CMakeLists.txt" <<'PROJECT'
@@ -115,6 +123,29 @@ Subdirectory)
     # The images come along, though nothing refers to them by a symbol.
     nm "$work/hello/hello" | grep qInitResources_CustomControls >/dev/null || { echo "the images are missing"; exit 1; }
     greet "$work/hello/hello"
+
+    # Fetched, the tree is as good as below the host's own, and shared where the host doesn't say otherwise.
+    mkdir "$work/fetching"
+    cat >"$work/fetching/CMakeLists.txt" <<'PROJECT'
+cmake_minimum_required(VERSION 3.22)
+project(fetching LANGUAGES CXX)
+include(FetchContent)
+FetchContent_Declare(CustomControls SOURCE_DIR "${CUSTOMCONTROLS_SOURCE}")
+FetchContent_MakeAvailable(CustomControls)
+foreach(library CustomControls CorvaneBase)
+    get_target_property(type ${library}::${library} TYPE)
+    if(NOT type STREQUAL "SHARED_LIBRARY")
+        message(SEND_ERROR "${library} is a ${type}")
+    endif()
+endforeach()
+foreach(target gallery machine-simulator CustomControlsDesigner CVelmarButtonTest)
+    if(TARGET ${target})
+        message(SEND_ERROR "${target} would be built for nobody")
+    endif()
+endforeach()
+PROJECT
+    cmake -S "$work/fetching" -B "$work/fetching/build" -G Ninja -DCUSTOMCONTROLS_SOURCE="$source" \
+        >"$work/fetching.log" 2>&1 || { cat "$work/fetching.log"; exit 1; }
 
     # The static libraries serve as an installed package too.
     cmake --install "$work/hello" --prefix "$work/prefix" >/dev/null
