@@ -2,7 +2,9 @@
 # Checks docs/ and the README against the sources:
 #   - every exported class and function has its page, with a picture, an example, its signals and its traps;
 #   - code that is marked as taken from a file is that file's, word for word;
-#   - every signal and every property of a header is told of on its page;
+#   - every page of what a user can use or read tells its keys and what a screen reader meets;
+#   - every signal, property and operation of a header is told of on its page, and no page tells of a signal or an
+#     operation that there is not;
 #   - every link leads somewhere.
 # With --fix the marked code is taken from the files anew.
 set -euo pipefail
@@ -73,6 +75,49 @@ while IFS=: read -r header name; do
 done < <(grep -rhHoP '^(class CUSTOMCONTROLS_EXPORT \K\w+|CUSTOMCONTROLS_EXPORT .*[ *]\K\w+(?=\())' --include='*.h' CustomControls)
 unset 'headers[CustomControls]' # it is nothing but a name
 
+# What nobody uses or reads: looks, pictures, painters of cells, whose views tell what they hold.
+declare -A silent=()
+for name in CCustomAppStyle CDelegateTableViewItem CFileNameDelegate CMsgBoxBackground CToolBarStyle CVelmarAnimation \
+    CWatermarkWidget LoadCustomControlsTranslation StatefulIcon; do
+    silent[$name]=yes
+done
+
+# The names of operations in the first column of a section's table.
+table_names() { # PAGE HEADING
+    awk -v heading="## $2" '/^## / { on = $0 == heading; next } on' "$1" | grep -oP '^\| `\K[^`]+(?=`)' | grep -oP '\w+(?=\()' |
+        sort -u || true
+}
+
+# The public operations of a header, but for those of a base that it takes over: a declaration may go on for several lines.
+operations() { # HEADER
+    awk '/^(public|public Q_SLOTS):/ { on = 1; next } /^[a-zA-Z].*:$|^};/ { on = 0 }
+         !on || /^ *(\/?\*|\/\/|Q_|friend |$)/ { next }
+         { declaration = declaration $0 }
+         /[;{}]$/ || /; *\/\// { print declaration; declaration = "" }' "$1" |
+        grep -vE 'override|~|^    enum' | grep -oP '^ +[^(=]*?\b\K\w+(?=\()' | sort -u || true
+}
+
+# The signals of a header.
+signals() { # HEADER
+    awk '/^Q_SIGNALS:/ { on = 1; next } /^[a-z].*:$|^};/ { on = 0 } on' "$1" | grep -oP '^    void \K\w+(?=\()' | sort -u || true
+}
+
+# What is in the first list and not in the second.
+missing_from() { # LIST LIST
+    comm -23 <(printf '%s\n' "$1") <(printf '%s\n' "$2")
+}
+
+# The header of a class and those of its bases here.
+family_of() { # HEADER
+    local base header
+    printf '%s\n' "$1"
+    while read -r base; do
+        for header in CustomControls/"$base".h CustomControls/*/"$base".h; do
+            [ -f "$header" ] && family_of "$header"
+        done
+    done < <(grep -oP '^(class .*: |    , )public \K\w+' "$1")
+}
+
 for name in "${!headers[@]}"; do
     header=${headers[$name]}
     page=docs/controls/$name.md
@@ -88,13 +133,28 @@ for name in "${!headers[@]}"; do
     done
     grep -qF "](docs/controls/$name.md)" README.md || problem README.md "it does not link to $page"
     grep -qF "]($name.md)" docs/controls/README.md || problem docs/controls/README.md "it does not link to $page"
+    if [ -z "${silent[$name]:-}" ]; then
+        grep -qx "## Keyboard and screen reader" "$page" || problem "$page" "it does not tell keys and screen reader"
+    fi
     lines=$(excerpt "docs/examples/$name.cpp" | wc -l)
     [ "$lines" -le 16 ] || problem "$page" "its example has $lines lines"
     while IFS= read -r member; do
         check
-        grep -qF "$member" "$page" || problem "$page" "it does not tell of $member"
-    done < <(grep -oP '^    Q_PROPERTY\(\S+ \K\w+' "$header" || true
-             awk '/^Q_SIGNALS:/ { on = 1; next } /^[a-z].*:$|^};/ { on = 0 } on' "$header" | grep -oP '^    void \K\w+(?=\()' || true)
+        grep -qF "\`$member\`" "$page" || problem "$page" "it does not tell of the property $member"
+    done < <(grep -oP '^    Q_PROPERTY\(\S+ \K\w+' "$header" || true)
+    mapfile -t family < <(family_of "$header")
+    declarations=$(cat "${family[@]}")
+    for kind in Operations Signals; do
+        told=$(table_names "$page" "$kind")
+        [ "$kind" = Signals ] && members=$(signals "$header") || members=$(operations "$header" | grep -vx "$name" || true)
+        for member in $(missing_from "$members" "$told"); do
+            problem "$page" "it does not tell of $member among its ${kind,,}"
+        done
+        for member in $told; do
+            check
+            [[ $declarations =~ [^[:alnum:]_]$member\( ]] || problem "$page" "it tells of $member, which $header has not"
+        done
+    done
 done
 for page in docs/controls/*.md; do
     name=$(basename "$page" .md)
