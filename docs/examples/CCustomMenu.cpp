@@ -11,13 +11,9 @@ EXAMPLE(CCustomMenu)
     menu->AddSplitLine();
     CCustomMenu* recent = menu->AddButtonWithSubMenu("Recent", {}, {}, {}, {});
     recent->AddMenuItem(1, "Gearbox cover.cnc", {}, {}, {});
-    menu->SetMenuStyle(MenuStyleWhite);
-    for (int i = 0; i < menu->MenuButtonCount(); ++i) {
-        menu->MenuButton(i)->SetChooseFocus(false); // brings the style's text colour
-    }
+    menu->SetMenuStyle(MenuStyleDark);
     menu->UpdateItemSize(); // once, after the last row
     menu->RefreshSize();
-    menu->move(40, 40);
     menu->show(); // a CMenuBtnHelper would do that
     QObject::connect(menu->MenuButton(0), &CCustomMenuItem::SignalMenuItemClicked, window,
                      [=] { window->setWindowTitle("open"); });

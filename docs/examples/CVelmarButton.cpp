@@ -12,9 +12,7 @@ EXAMPLE(CVelmarButton)
     button->SetButtonIcon(icon, icon, icon, icon);
     button->SetButtonText("Finishing", false);
     button->SetButtonTextPos(0, 0, 0, 0, 90, 36); // the room that the caption may take beside the icon
-    button->SetTextColor("#333333", "#0f5f3a", "#188553", "#ffffff");
-    button->SetBackgroundSolid(0xffffff, 0xd6e9df, 0xeef6f2, 0x188553);
-    button->SetBtnRadius(4);
+    button->SetBackgroundSolid(0xffffff, 0x0f5f3a, 0xd6e9df, 0x188553); // normal, pressed, hover, chosen
     QObject::connect(button, &CVelmarButton::SignalClicked, button, [=] { button->SetChooseFocus(true); });
     layout->addWidget(button);
     // [/example]
