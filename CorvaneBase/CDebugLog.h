@@ -10,7 +10,8 @@
  * The product's log: one unlevelled line per event, each with its time, in one file.
  *
  * Every operation may be called from any thread. A log that cannot be written loses its lines and tells nobody: a
- * control must never fail because of its log.
+ * control must never fail because of its log. All operations are static: nobody makes or owns a log. The file is opened
+ * with the first line and let go of at the end of the program.
  *
  * @code
  * CDebugLog::SetLogFile(QDir::home().filePath("host.log"));

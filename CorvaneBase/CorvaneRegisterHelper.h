@@ -6,7 +6,8 @@
 #include <QString>
 
 /**
- * Keeps which machine the product is connected to. A singleton of the GUI thread.
+ * Keeps which machine the product is connected to. A singleton of the GUI thread:
+ * instance() makes it at its first call, and it lives to the end of the program.
  *
  * @code
  * QObject::connect(CorvaneRegisterHelper::instance(), &CorvaneRegisterHelper::signalCurrentMachineChanged,

@@ -11,6 +11,7 @@ class QWidget;
 /**
  * The switchboard between controls and host: requests that a control makes of the host and news that the host gives to
  * every control. A singleton of the GUI thread; the host connects to its signals and emits signalAboutToExit.
+ * instance() makes it at its first call, and it lives to the end of the program.
  *
  * @code
  * QObject::connect(CorvaneSignalHelper::instance(), &CorvaneSignalHelper::signalActiveMainWindow,

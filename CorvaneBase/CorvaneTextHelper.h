@@ -9,7 +9,8 @@
 #include <memory>
 
 /**
- * The product's language, its reading of numbers and its local settings. A singleton of the GUI thread.
+ * The product's language, its reading of numbers and its local settings. A singleton of the GUI thread:
+ * instance() makes it at its first call, and it lives to the end of the program.
  *
  * @code
  * if (!CorvaneTextHelper::instance()->AppInChineseEnvironment())

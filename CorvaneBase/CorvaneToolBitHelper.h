@@ -18,8 +18,9 @@ struct ToolBit
 };
 
 /**
- * What the product knows of each model's tools. A singleton of the GUI thread. It starts with the tools that are built
- * in; a host replaces them from its own data.
+ * What the product knows of each model's tools. A singleton of the GUI thread: instance() makes it at its first call,
+ * and it lives to the end of the program. It starts with the tools that are built in; a host replaces them from its own
+ * data.
  *
  * @code
  * QString error;

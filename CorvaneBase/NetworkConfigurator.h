@@ -12,7 +12,14 @@
  * Brings the computer into the network of a machine that hangs on its USB Type-C cable: such a machine shows up as a
  * wired adapter, stands at 192.168.7.2 and gives no addresses away.
  *
- * Runs on a worker thread and may take several seconds for each round.
+ * Runs on a worker thread and may take several seconds for each round. Both operations are static: nobody makes or owns
+ * a configurator. A provider that a host sets is kept to the end of the program, or until the next one is set.
+ *
+ * @code
+ * NetworkConfigurator::SetProvider([](int rounds) { // on a worker thread
+ *     return AskTheNetworkService(rounds);          // the host's own, giving a NetworkConfigurator::Result
+ * });
+ * @endcode
  */
 class CORVANEBASE_EXPORT NetworkConfigurator
 {

@@ -6,6 +6,7 @@
 class CUSTOMCONTROLS_EXPORT CustomControls
 {
 public:
+    /** Nothing to set up; no host needs one. */
     CustomControls();
     /** Nothing to assign. */
     CustomControls& operator=(const CustomControls& other);

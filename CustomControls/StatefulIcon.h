@@ -9,7 +9,7 @@
  * Makes icons with two looks, one for a checked and one for an unchecked button, sharp at every device pixel ratio.
  *
  * GUI thread only: it asks the application for its ratio and the file system for the files. All operations are static;
- * the class holds nothing.
+ * the class holds nothing, so nobody makes or owns one, and an icon belongs to whoever it is returned to.
  *
  * @code
  * button->setCheckable(true);

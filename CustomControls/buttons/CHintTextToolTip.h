@@ -6,7 +6,10 @@ class QLabel;
 
 /**
  * A note that shows a text on a white card with a thin border. Short texts stay on one line; longer ones wrap so that
- * the note is never wider than 370 pixels. CHintButton::SetToolTipText() makes one by itself.
+ * the note is never wider than 370 pixels. CHintButton::SetToolTipText() makes one by itself and owns it.
+ *
+ * A note that the host makes belongs to its parent, as any widget; given to a button by CHintButton::SetToolTip() it
+ * stays the host's, and either may be deleted before the other.
  *
  * @code
  * auto* note = new CHintTextToolTip(button, window);
