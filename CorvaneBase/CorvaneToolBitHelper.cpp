@@ -20,7 +20,8 @@ constexpr int kLargestLocation = 999;
 constexpr int kLargestModel = 999;
 constexpr int kLongestText = 200;
 
-// The index is the type code.
+// The index is the type code. A translation has to be short: the confirmation of a job's tools cuts a name at 100
+// pixels, and less where the title of the first column is long.
 constexpr const char* kTypeNames[] = {
     QT_TRANSLATE_NOOP("CorvaneToolBitHelper", "铰刀"),
     QT_TRANSLATE_NOOP("CorvaneToolBitHelper", "立铣刀"),
@@ -68,11 +69,6 @@ QHash<int, Magazine> BuiltInTools()
                                            {6, 1, text("D1 L50"), 6}})}};
 }
 
-QString Text(const char* source)
-{
-    return QCoreApplication::translate("CorvaneToolBitHelper", source);
-}
-
 std::optional<int> WholeNumber(const QJsonValue& json, int smallest, int largest)
 {
     const double number = json.toDouble(smallest - 1.0);
@@ -90,28 +86,30 @@ std::optional<int> KeyNumber(const QString& key, int largest)
 /** The content of a tool file, read as a whole before anything of it holds. */
 class ToolFile
 {
+    Q_DECLARE_TR_FUNCTIONS(CorvaneToolBitHelper)
+
 public:
     bool Read(const QString& path)
     {
         QFile file(path);
         if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
-            return Fail(Text("无法读取文件"));
+            return Fail(tr("无法读取文件"));
         }
         // As much as is there: a reading reserves what it asks for.
         const QByteArray bytes = file.read(qMin(file.size(), kLargestFile) + 1);
         if (bytes.size() > kLargestFile) {
-            return Fail(Text("文件超过 %1 MiB").arg(kLargestFile / 1024 / 1024));
+            return Fail(tr("文件超过 %1 MiB").arg(kLargestFile / 1024 / 1024));
         }
         QJsonParseError parseError;
         const QJsonDocument document = QJsonDocument::fromJson(bytes, &parseError);
         if (parseError.error != QJsonParseError::NoError) {
-            return Fail(Text("第 %1 字节处不是有效的 JSON").arg(parseError.offset));
+            return Fail(tr("第 %1 字节处不是有效的 JSON").arg(parseError.offset));
         }
         const QJsonObject root = document.object();
         const QJsonValue types = root.value(QLatin1String("types"));
         const QJsonValue models = root.value(QLatin1String("models"));
         if (!document.isObject() || !models.isObject() || !(types.isUndefined() || types.isObject())) {
-            return Fail(Text("文件应为含有 “models” 对象的 JSON 对象，“types” 若有也应为对象"));
+            return Fail(tr("文件应为含有 “models” 对象的 JSON 对象，“types” 若有也应为对象"));
         }
         return ReadTypes(types.toObject()) && ReadModels(models.toObject());
     }
@@ -133,7 +131,7 @@ private:
             const std::optional<int> type = KeyNumber(it.key(), kLargestType);
             const QString name = it.value().toString();
             if (!type || name.isEmpty() || name.size() > kLongestText) {
-                return Fail(Text("“types” 中的 “%1”：编号应为 0 到 %2 的整数，名称应为 1 到 %3 个字符的文本")
+                return Fail(tr("“types” 中的 “%1”：编号应为 0 到 %2 的整数，名称应为 1 到 %3 个字符的文本")
                                 .arg(it.key())
                                 .arg(kLargestType)
                                 .arg(kLongestText));
@@ -148,7 +146,7 @@ private:
         for (auto it = models.begin(); it != models.end(); ++it) {
             const std::optional<int> model = KeyNumber(it.key(), kLargestModel);
             if (!model || !it.value().isArray()) {
-                return Fail(Text("“models” 中的 “%1”：机型应为 0 到 %2 的整数，其值应为刀具数组")
+                return Fail(tr("“models” 中的 “%1”：机型应为 0 到 %2 的整数，其值应为刀具数组")
                                 .arg(it.key())
                                 .arg(kLargestModel));
             }
@@ -158,8 +156,7 @@ private:
                 tools.append(ToolBit());
                 const QString reason = ReadTool(entry, &tools.last());
                 if (!reason.isEmpty()) {
-                    return Fail(
-                        Text("机型 %1 的第 %2 把刀具：%3").arg(it.key(), QString::number(tools.size()), reason));
+                    return Fail(tr("机型 %1 的第 %2 把刀具：%3").arg(it.key(), QString::number(tools.size()), reason));
                 }
             }
             m_hashModels.insert(*model, ToMagazine(tools));
@@ -170,10 +167,10 @@ private:
     QString ReadTool(const QJsonValue& entry, ToolBit* tool) const
     {
         if (!entry.isObject()) {
-            return Text("应为对象");
+            return tr("应为对象");
         }
         const QJsonObject object = entry.toObject();
-        const QString range = Text("“%1” 应为 %2 到 %3 的整数");
+        const QString range = tr("“%1” 应为 %2 到 %3 的整数");
         const std::optional<int> number = WholeNumber(object.value(QLatin1String("number")), 0, kLargestNumber);
         if (!number) {
             return range.arg(QStringLiteral("number")).arg(0).arg(kLargestNumber);
@@ -183,7 +180,7 @@ private:
             return range.arg(QStringLiteral("type")).arg(0).arg(kLargestType);
         }
         if (*type >= kTypeCount && !m_hashNames.contains(*type)) {
-            return Text("刀具类型 %1 没有名称").arg(*type);
+            return tr("刀具类型 %1 没有名称").arg(*type);
         }
         const std::optional<int> location = WholeNumber(object.value(QLatin1String("location")), 1, kLargestLocation);
         if (!location) {
@@ -191,7 +188,7 @@ private:
         }
         const QJsonValue detail = object.value(QLatin1String("detail"));
         if (!detail.isString() || detail.toString().size() > kLongestText) {
-            return Text("“%1” 应为不超过 %2 个字符的文本").arg(QStringLiteral("detail")).arg(kLongestText);
+            return tr("“%1” 应为不超过 %2 个字符的文本").arg(QStringLiteral("detail")).arg(kLongestText);
         }
         *tool = {*number, *type, detail.toString(), *location};
         return {};
@@ -240,7 +237,9 @@ QString CorvaneToolBitHelper::GetToolNameByType(int toolType) const
     if (name != d->m_hashNames.cend()) {
         return *name;
     }
-    return toolType >= 0 && toolType < kTypeCount ? Text(kTypeNames[toolType]) : QString();
+    return toolType >= 0 && toolType < kTypeCount
+               ? QCoreApplication::translate("CorvaneToolBitHelper", kTypeNames[toolType])
+               : QString();
 }
 
 QString CorvaneToolBitHelper::GetToolDetailByNumber(int toolNumber, ModelType model) const
@@ -265,7 +264,7 @@ bool CorvaneToolBitHelper::LoadTools(const QString& jsonFile, QString* error)
     ToolFile file;
     const bool ok = file.Read(jsonFile);
     if (error) {
-        *error = ok ? QString() : Text("刀具文件 %1：%2").arg(QFileInfo(jsonFile).fileName(), file.m_strError);
+        *error = ok ? QString() : ToolFile::tr("刀具文件 %1：%2").arg(QFileInfo(jsonFile).fileName(), file.m_strError);
     }
     if (ok) {
         d->m_hashNames.insert(file.m_hashNames);

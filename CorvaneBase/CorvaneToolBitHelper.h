@@ -14,7 +14,7 @@ struct ToolBit
     int iNumber;       ///< the number that G-code calls it by
     int iType;         ///< its type code, see CorvaneToolBitHelper::GetToolNameByType
     QString strDetail; ///< its measures in words, such as "D3.175 R0.5"
-    int iLocation;     ///< its place in the magazine, counted from 1
+    int iLocation;     ///< its pocket in the magazine, counted from 1
 };
 
 /**
@@ -38,13 +38,12 @@ public:
     int GetIntegerToolTypeByNumber(int toolNumber, ModelType model) const;
     /**
      * The display name of a type, in the product's language; empty for an unknown one. Built in are 0 reamer, 1 end
-     * mill, 2 relieved end mill, 3 ball nose mill, 4 relieved ball nose mill, 5 bull nose mill, 6 engraving cutter, 7
-     * tapered ball nose mill.
+     * mill, 2 relieved mill, 3 ball end mill, 4 relieved ball, 5 bull nose, 6 engraver, 7 tapered ball.
      */
     QString GetToolNameByType(int toolType) const;
     /** The detail text of a tool; empty for a number that the model does not have. */
     QString GetToolDetailByNumber(int toolNumber, ModelType model) const;
-    /** The place of a tool in the magazine; -1 for a number that the model does not have. */
+    /** The pocket of a tool in the magazine; -1 for a number that the model does not have. */
     int GetToolLocationByToolNo(int toolNumber, ModelType model);
 
     /** Replaces the tools of @p model. Of two tools with one number the last holds. */

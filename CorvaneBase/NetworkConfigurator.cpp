@@ -30,10 +30,11 @@ constexpr quint16 kQueryPort = 5002;
 QMutex g_providerMutex;
 std::function<NetworkConfigurator::Result(int)> g_provider;
 
-QString Text(const char* source)
+/** What the user reads. */
+struct Texts
 {
-    return QCoreApplication::translate("NetworkConfigurator", source);
-}
+    Q_DECLARE_TR_FUNCTIONS(NetworkConfigurator)
+};
 
 QHostAddress HostAddress(int host)
 {
@@ -107,7 +108,7 @@ Result Ready(const Adapter& adapter, const QHostAddress& address)
     result.iStatus = NetworkConfigurator::StatusReady;
     result.strAdapter = adapter.strTitle;
     result.strAddress = address.toString();
-    result.strDetail = Text("网卡“%1”已就绪，本机地址 %2").arg(result.strAdapter, result.strAddress);
+    result.strDetail = Texts::tr("网卡“%1”已就绪，本机地址 %2").arg(result.strAdapter, result.strAddress);
     return result;
 }
 
@@ -115,18 +116,19 @@ Result RefusedChange(System& system, const Adapter& adapter, const Change& chang
 {
     switch (change.status) {
     case NetworkConfigurator::StatusNoRight:
-        return Failure(change.status, Text("没有修改网卡设置的权限，请以管理员身份运行本软件后重试"));
+        return Failure(change.status, Texts::tr("没有修改网卡设置的权限，请以管理员身份运行本软件后重试"));
     case NetworkConfigurator::StatusNoTool:
-        return Failure(change.status, Text("系统缺少网卡配置工具（%1），请安装后重试").arg(system.ToolNames()));
+        return Failure(change.status, Texts::tr("系统缺少网卡配置工具（%1），请安装后重试").arg(system.ToolNames()));
     default:
         return Failure(NetworkConfigurator::StatusConfigurationFailed,
-                       Text("无法设置网卡“%1”的地址：%2").arg(adapter.strTitle, change.strReason));
+                       Texts::tr("无法设置网卡“%1”的地址：%2").arg(adapter.strTitle, change.strReason));
     }
 }
 
 Result NoAnswer()
 {
-    return Failure(NetworkConfigurator::StatusNoAnswer, Text("机床没有应答，请检查数据线是否插好、机床是否已开机"));
+    return Failure(NetworkConfigurator::StatusNoAnswer,
+                   Texts::tr("机床没有应答，请检查数据线是否插好、机床是否已开机"));
 }
 
 /** Gives the adapter an address, and takes it back where no machine answers to it. */
@@ -135,7 +137,8 @@ Result TryAdapter(System& system, const Adapter& adapter)
     const QHostAddress address =
         FreeAddress([&](const QHostAddress& candidate) { return system.IsTaken(adapter, candidate); });
     if (address.isNull()) {
-        return RefusedChange(system, adapter, {NetworkConfigurator::StatusConfigurationFailed, Text("没有空闲的地址")});
+        return RefusedChange(system, adapter,
+                             {NetworkConfigurator::StatusConfigurationFailed, Texts::tr("没有空闲的地址")});
     }
     const Change added = system.AddAddress(adapter, address, kPrefix);
     if (added.status != NetworkConfigurator::StatusReady) {
@@ -157,7 +160,7 @@ Result SearchOnce(System& system, const QList<Adapter>& adapters)
     for (const Adapter& adapter : adapters) {
         if (OccupiesMachineAddress(adapter)) {
             return Failure(NetworkConfigurator::StatusConfigurationFailed,
-                           Text("网卡“%1”占用了机床的地址 %2，请先修改该网卡的地址")
+                           Texts::tr("网卡“%1”占用了机床的地址 %2，请先修改该网卡的地址")
                                .arg(adapter.strTitle, MachineAddress().toString()));
         }
     }
@@ -168,7 +171,7 @@ Result SearchOnce(System& system, const QList<Adapter>& adapters)
         }
     }
     Result failure = Failure(NetworkConfigurator::StatusNoAdapter,
-                             Text("未找到已连接的有线网卡，请确认机床已开机，并已用数据线连接到电脑"));
+                             Texts::tr("未找到已连接的有线网卡，请确认机床已开机，并已用数据线连接到电脑"));
     for (const Adapter& adapter : InOrderOfPromise(adapters)) {
         Result result = TryAdapter(system, adapter);
         switch (result.iStatus) {

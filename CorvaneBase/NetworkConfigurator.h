@@ -39,7 +39,7 @@ public:
     struct Result
     {
         int iStatus = StatusNoAdapter;              ///< a Status; 0 is success
-        QString strDetail;                          ///< the reason in words for the user, in Chinese
+        QString strDetail;                          ///< the reason in words for the user, in the product's language
         QString strAdapter;                         ///< the adapter that was found ready or configured
         QString strAddress;                         ///< this computer's address in the machine's network
         QList<std::array<QString, 3>> listAdapters; ///< name, hardware address, address of each adapter looked at

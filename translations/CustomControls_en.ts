@@ -236,6 +236,13 @@ Line: %3</translation>
     </message>
 </context>
 <context>
+    <name>CToolBarItem</name>
+    <message>
+        <source>更多工具</source>
+        <translation>More tools</translation>
+    </message>
+</context>
+<context>
     <name>CVelmarMessageBox</name>
     <message>
         <source>关闭</source>
@@ -360,10 +367,128 @@ Line: %3</translation>
     </message>
 </context>
 <context>
+    <name>CorvaneToolBitHelper</name>
+    <message>
+        <source>铰刀</source>
+        <translation>Reamer</translation>
+    </message>
+    <message>
+        <source>立铣刀</source>
+        <translation>End mill</translation>
+    </message>
+    <message>
+        <source>避空立铣刀</source>
+        <translation>Relieved mill</translation>
+    </message>
+    <message>
+        <source>球头铣刀</source>
+        <translation>Ball end mill</translation>
+    </message>
+    <message>
+        <source>避空球头铣刀</source>
+        <translation>Relieved ball</translation>
+    </message>
+    <message>
+        <source>圆鼻铣刀</source>
+        <translation>Bull nose</translation>
+    </message>
+    <message>
+        <source>锥刀</source>
+        <translation>Engraver</translation>
+    </message>
+    <message>
+        <source>锥度球头铣刀</source>
+        <translation>Tapered ball</translation>
+    </message>
+    <message>
+        <source>无法读取文件</source>
+        <translation>the file cannot be read</translation>
+    </message>
+    <message>
+        <source>文件超过 %1 MiB</source>
+        <translation>the file is larger than %1 MiB</translation>
+    </message>
+    <message>
+        <source>第 %1 字节处不是有效的 JSON</source>
+        <translation>not valid JSON at byte %1</translation>
+    </message>
+    <message>
+        <source>文件应为含有 “models” 对象的 JSON 对象，“types” 若有也应为对象</source>
+        <translation>the file must be a JSON object with an object “models”; “types”, if present, must be an object too</translation>
+    </message>
+    <message>
+        <source>“types” 中的 “%1”：编号应为 0 到 %2 的整数，名称应为 1 到 %3 个字符的文本</source>
+        <translation>“%1” in “types”: the code must be an integer from 0 to %2, and the name a text of 1 to %3 characters</translation>
+    </message>
+    <message>
+        <source>“models” 中的 “%1”：机型应为 0 到 %2 的整数，其值应为刀具数组</source>
+        <translation>“%1” in “models”: the model must be an integer from 0 to %2, and its value an array of tools</translation>
+    </message>
+    <message>
+        <source>机型 %1 的第 %2 把刀具：%3</source>
+        <translation>model %1, tool %2: %3</translation>
+    </message>
+    <message>
+        <source>应为对象</source>
+        <translation>must be an object</translation>
+    </message>
+    <message>
+        <source>“%1” 应为 %2 到 %3 的整数</source>
+        <translation>“%1” must be an integer from %2 to %3</translation>
+    </message>
+    <message>
+        <source>刀具类型 %1 没有名称</source>
+        <translation>tool type %1 has no name</translation>
+    </message>
+    <message>
+        <source>“%1” 应为不超过 %2 个字符的文本</source>
+        <translation>“%1” must be a text of at most %2 characters</translation>
+    </message>
+    <message>
+        <source>刀具文件 %1：%2</source>
+        <translation>Tool file %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>MyProgressBar</name>
     <message>
         <source>MyProgressBar</source>
         <translation>MyProgressBar</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkConfigurator</name>
+    <message>
+        <source>网卡“%1”已就绪，本机地址 %2</source>
+        <translation>Adapter “%1” is ready; this computer&apos;s address is %2</translation>
+    </message>
+    <message>
+        <source>没有修改网卡设置的权限，请以管理员身份运行本软件后重试</source>
+        <translation>No permission to change the adapter settings. Run this program as administrator and try again</translation>
+    </message>
+    <message>
+        <source>系统缺少网卡配置工具（%1），请安装后重试</source>
+        <translation>The system has no tool to configure the adapter (%1). Install one and try again</translation>
+    </message>
+    <message>
+        <source>无法设置网卡“%1”的地址：%2</source>
+        <translation>Could not set the address of adapter “%1”: %2</translation>
+    </message>
+    <message>
+        <source>机床没有应答，请检查数据线是否插好、机床是否已开机</source>
+        <translation>The machine does not answer. Check that the cable is plugged in and the machine is switched on</translation>
+    </message>
+    <message>
+        <source>没有空闲的地址</source>
+        <translation>no address is free</translation>
+    </message>
+    <message>
+        <source>网卡“%1”占用了机床的地址 %2，请先修改该网卡的地址</source>
+        <translation>Adapter “%1” uses the machine&apos;s address %2. Change the address of that adapter first</translation>
+    </message>
+    <message>
+        <source>未找到已连接的有线网卡，请确认机床已开机，并已用数据线连接到电脑</source>
+        <translation>No connected wired adapter was found. Check that the machine is switched on and connected to this computer by its cable</translation>
     </message>
 </context>
 <context>
@@ -474,13 +599,6 @@ Line: %3</translation>
     <message>
         <source>选取的圆柱面不支持加工</source>
         <translation>The selected cylindrical face cannot be machined</translation>
-    </message>
-</context>
-<context>
-    <name>CToolBarItem</name>
-    <message>
-        <source>更多工具</source>
-        <translation>More tools</translation>
     </message>
 </context>
 </TS>

@@ -396,41 +396,6 @@
     </message>
 </context>
 <context>
-    <name>CorvaneToolBitHelper</name>
-    <message>
-        <source>铰刀</source>
-        <translation>Reamer</translation>
-    </message>
-    <message>
-        <source>立铣刀</source>
-        <translation>End mill</translation>
-    </message>
-    <message>
-        <source>避空立铣刀</source>
-        <translation>Relieved mill</translation>
-    </message>
-    <message>
-        <source>球头铣刀</source>
-        <translation>Ball nose</translation>
-    </message>
-    <message>
-        <source>避空球头铣刀</source>
-        <translation>Relieved ball</translation>
-    </message>
-    <message>
-        <source>圆鼻铣刀</source>
-        <translation>Bull nose</translation>
-    </message>
-    <message>
-        <source>锥刀</source>
-        <translation>Engraver</translation>
-    </message>
-    <message>
-        <source>锥度球头铣刀</source>
-        <translation>Tapered ball</translation>
-    </message>
-</context>
-<context>
     <name>FramelessWindowsPage</name>
     <message>
         <source>还没有打开窗口。</source>
@@ -2866,41 +2831,6 @@ for the fourth axis</translation>
     <message>
         <source>图片按间隔逐张显示。</source>
         <translation>Pictures shown one after the other.</translation>
-    </message>
-</context>
-<context>
-    <name>CorvaneToolBitHelper</name>
-    <message>
-        <source>铰刀</source>
-        <translation>Reamer</translation>
-    </message>
-    <message>
-        <source>立铣刀</source>
-        <translation>End mill</translation>
-    </message>
-    <message>
-        <source>避空立铣刀</source>
-        <translation>Relieved mill</translation>
-    </message>
-    <message>
-        <source>球头铣刀</source>
-        <translation>Ball nose</translation>
-    </message>
-    <message>
-        <source>避空球头铣刀</source>
-        <translation>Relieved ball</translation>
-    </message>
-    <message>
-        <source>圆鼻铣刀</source>
-        <translation>Bull nose</translation>
-    </message>
-    <message>
-        <source>锥刀</source>
-        <translation>Engraver</translation>
-    </message>
-    <message>
-        <source>锥度球头铣刀</source>
-        <translation>Tapered ball</translation>
     </message>
 </context>
 </TS>

@@ -1,8 +1,10 @@
 #include <CorvaneBase/CorvaneToolBitHelper.h>
+#include <CustomControls/CustomControlsTranslation.h>
 
 #include <tests/support/TestMain.h>
 
 #include <QFile>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTranslator>
 
@@ -22,6 +24,12 @@ public:
     bool isEmpty() const override { return false; }
 };
 
+/** True when a text has Chinese characters, or the full-width signs between them. */
+bool IsChinese(const QString& text)
+{
+    return text.contains(QRegularExpression(QStringLiteral("[\\p{Han}\\x{3000}-\\x{303F}\\x{FF00}-\\x{FFEF}]")));
+}
+
 } // namespace
 
 class CorvaneToolBitHelperTest : public QObject
@@ -30,11 +38,13 @@ class CorvaneToolBitHelperTest : public QObject
 
 private Q_SLOTS:
     void init();
+    void cleanup() { LoadCustomControlsTranslation(QLocale(QLocale::Chinese)); }
     void everyModelHasToolsOfKnownTypes_data();
     void everyModelHasToolsOfKnownTypes();
     void typesHaveTheirNames_data();
     void typesHaveTheirNames();
     void typeNamesAreTranslated();
+    void typesHaveEnglishNamesForAnEnglishHost();
     void unknownToolGivesNothing_data();
     void unknownToolGivesNothing();
     void setToolsReplacesOneModel();
@@ -45,6 +55,8 @@ private Q_SLOTS:
     void emptyMagazineIsAllowed();
     void badFileChangesNothingAndSaysWhy_data();
     void badFileChangesNothingAndSaysWhy();
+    void badFileTellsAnEnglishHostInEnglish_data() { badFileChangesNothingAndSaysWhy_data(); }
+    void badFileTellsAnEnglishHostInEnglish();
     void unreadableFileSaysWhy_data();
     void unreadableFileSaysWhy();
     void fileAboveTheLimitIsRefused();
@@ -121,6 +133,16 @@ void CorvaneToolBitHelperTest::typeNamesAreTranslated()
     QCOMPARE(m_helper->GetToolNameByType(3), QStringLiteral("en:球头铣刀"));
     QCoreApplication::removeTranslator(&echo);
     QCOMPARE(m_helper->GetToolNameByType(3), QStringLiteral("球头铣刀"));
+}
+
+void CorvaneToolBitHelperTest::typesHaveEnglishNamesForAnEnglishHost()
+{
+    QVERIFY(LoadCustomControlsTranslation(QLocale(QLocale::English)));
+    QCOMPARE(m_helper->GetToolNameByType(1), QStringLiteral("End mill"));
+    for (int type = 0; type < 8; ++type) {
+        const QString name = m_helper->GetToolNameByType(type);
+        QVERIFY2(!name.isEmpty() && !IsChinese(name), qPrintable(name));
+    }
 }
 
 void CorvaneToolBitHelperTest::unknownToolGivesNothing_data()
@@ -255,6 +277,15 @@ void CorvaneToolBitHelperTest::badFileChangesNothingAndSaysWhy()
     QCOMPARE(m_helper->GetToolNameByType(9), QString());
 }
 
+void CorvaneToolBitHelperTest::badFileTellsAnEnglishHostInEnglish()
+{
+    QFETCH(QByteArray, content);
+    QVERIFY(LoadCustomControlsTranslation(QLocale(QLocale::English)));
+    QVERIFY(!Load(content));
+    QVERIFY2(m_error.startsWith(QStringLiteral("Tool file tools.json: ")), qPrintable(m_error));
+    QVERIFY2(!IsChinese(m_error), qPrintable(m_error));
+}
+
 void CorvaneToolBitHelperTest::unreadableFileSaysWhy_data()
 {
     QTest::addColumn<QString>("path");
@@ -268,6 +299,9 @@ void CorvaneToolBitHelperTest::unreadableFileSaysWhy()
     QFETCH(QString, path);
     QVERIFY(!m_helper->LoadTools(path, &m_error));
     QVERIFY2(m_error.contains(QStringLiteral("无法读取")), qPrintable(m_error));
+    QVERIFY(LoadCustomControlsTranslation(QLocale(QLocale::English)));
+    QVERIFY(!m_helper->LoadTools(path, &m_error));
+    QVERIFY2(m_error.contains(QStringLiteral("cannot be read")) && !IsChinese(m_error), qPrintable(m_error));
 }
 
 void CorvaneToolBitHelperTest::fileAboveTheLimitIsRefused()

@@ -1,10 +1,13 @@
 #include <CorvaneBase/NetworkConfigurator.h>
 #include <CorvaneBase/NetworkConfigurator_p.h>
+#include <CustomControls/CustomControlsTranslation.h>
 
 #include <tests/support/LogCapture.h>
 #include <tests/support/TestMain.h>
 
 #include <QElapsedTimer>
+#include <QRegularExpression>
+#include <QScopeGuard>
 #include <QThread>
 
 using namespace NetworkConfiguratorDetail;
@@ -60,6 +63,34 @@ public:
     int m_iListed = 0;
 };
 
+/** What the user reads of each way in which a search fails. */
+QSet<QString> FailureDetails()
+{
+    QSet<QString> details;
+    for (const Status refused : {Status::StatusNoRight, Status::StatusNoTool, Status::StatusConfigurationFailed}) {
+        FakeSystem system;
+        system.m_listRounds = {{Wired("usb")}};
+        system.m_hashRefused = {{QStringLiteral("usb"), {refused, QStringLiteral("x")}}};
+        details.insert(Search(system, 1).strDetail);
+    }
+    FakeSystem silent;
+    silent.m_listRounds = {{Wired("usb")}};
+    details.insert(Search(silent, 1).strDetail);
+    FakeSystem empty;
+    empty.m_listRounds = {{}};
+    details.insert(Search(empty, 1).strDetail);
+    FakeSystem crowded;
+    crowded.m_listRounds = {{Wired("usb")}};
+    for (int host = 100; host < 108; ++host) {
+        crowded.m_listTaken.append(QStringLiteral("192.168.7.%1").arg(host));
+    }
+    details.insert(Search(crowded, 1).strDetail);
+    FakeSystem occupied;
+    occupied.m_listRounds = {{Wired("usb", {Entry("192.168.7.2")})}};
+    details.insert(Search(occupied, 1).strDetail);
+    return details;
+}
+
 } // namespace
 
 class NetworkConfiguratorTest : public QObject
@@ -88,6 +119,7 @@ private Q_SLOTS:
     void addressThatStaysIsLogged();
     void adaptersLookedAtAreListed();
     void everyFailureHasChineseWords();
+    void everyOutcomeHasEnglishWordsForAnEnglishHost();
     void providerTakesThePlaceOfTheSearch();
     void programsAreEndedInTime();
     void programsAreRunWithoutAShell();
@@ -311,22 +343,26 @@ void NetworkConfiguratorTest::adaptersLookedAtAreListed()
 
 void NetworkConfiguratorTest::everyFailureHasChineseWords()
 {
-    QSet<QString> details;
-    for (const Status refused : {Status::StatusNoRight, Status::StatusNoTool, Status::StatusConfigurationFailed}) {
-        FakeSystem system;
-        system.m_listRounds = {{Wired("usb")}};
-        system.m_hashRefused = {{QStringLiteral("usb"), {refused, QStringLiteral("x")}}};
-        details.insert(Search(system, 1).strDetail);
-    }
-    FakeSystem silent;
-    silent.m_listRounds = {{Wired("usb")}};
-    details.insert(Search(silent, 1).strDetail);
-    FakeSystem empty;
-    empty.m_listRounds = {{}};
-    details.insert(Search(empty, 1).strDetail);
-    QCOMPARE(details.size(), 5); // each its own
+    const QSet<QString> details = FailureDetails();
+    QCOMPARE(details.size(), 7); // each its own
     for (const QString& detail : details) {
         QVERIFY2(detail.at(0).script() == QChar::Script_Han, qPrintable(detail));
+    }
+}
+
+void NetworkConfiguratorTest::everyOutcomeHasEnglishWordsForAnEnglishHost()
+{
+    QVERIFY(LoadCustomControlsTranslation(QLocale(QLocale::English)));
+    const auto chinese = qScopeGuard([] { LoadCustomControlsTranslation(QLocale(QLocale::Chinese)); });
+    QSet<QString> details = FailureDetails();
+    QCOMPARE(details.size(), 7);
+    FakeSystem ready;
+    ready.m_listRounds = {{Wired("usb", {Entry("192.168.7.9")})}};
+    details.insert(Search(ready, 1).strDetail);
+    // Neither characters nor the full-width signs between them.
+    const QRegularExpression foreign(QStringLiteral("[\\p{Han}\\x{3000}-\\x{303F}\\x{FF00}-\\x{FFEF}]"));
+    for (const QString& detail : details) {
+        QVERIFY2(!detail.contains(foreign), qPrintable(detail));
     }
 }
 
