@@ -103,13 +103,17 @@ public:
      * Ends the run: the bar is emptied, the steps and the dots stop, and the dialog is hidden and closed, but for the
      * titles "三维拼接" and "表面重建", whose dialogs stay on the screen for the host's next stage. The title
      * "恢复扫描状态" emits closeRestoreScan(). The close button is shown again in every case.
+     *
+     * Meant are these titles as they read in the program's language: a host passes
+     * QCoreApplication::translate("CProgressWidget", "三维拼接"), which is the Chinese text where nothing translates
+     * it.
      */
     void stop();
 
     /** Tells that the job failed: the dots stop, the dialog closes and its close button can be clicked again. */
     void progressFailDeal();
 
-    /** Sets the message as setText() does, and the title, which also decides what stop() does. */
+    /** Sets the message as setText() does, and the title, which also decides what stop() does; it tells which texts. */
     void setProText(QString text, QString title);
 
     /** Sets the message, to which the moving dots are added. The dialog's height follows the wrapped text. */
@@ -158,7 +162,7 @@ public:
 Q_SIGNALS:
     /** The close button was clicked while it belongs to the host. It stays disabled until EnableCloseButton(). */
     void signalCloseBtnClicked();
-    /** A dialog titled "恢复扫描状态" was stopped. */
+    /** A dialog titled "恢复扫描状态", as that reads in the program's language, was stopped; see stop(). */
     void closeRestoreScan();
 
 protected:

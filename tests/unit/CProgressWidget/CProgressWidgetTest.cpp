@@ -1,6 +1,7 @@
 #include <CustomControls/CProgressWidget/CProgressBar.h>
 #include <CustomControls/CProgressWidget/CProgressWidget.h>
 #include <CustomControls/CProgressWidget/MyProgressBar.h>
+#include <CustomControls/CustomControlsTranslation.h>
 #include <CustomControls/messagebox/CMsgBoxBackground.h>
 
 #include <CorvaneBase/CorvaneFonts.h>
@@ -17,6 +18,7 @@
 #include <QMovie>
 #include <QProcess>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QSemaphore>
 #include <QSet>
 #include <QThread>
@@ -151,6 +153,7 @@ private Q_SLOTS:
     void stopOfAStageStaysOnTheScreen_data();
     void stopOfAStageStaysOnTheScreen();
     void stopOfARestoredScanTells();
+    void titlesCountAsTheyReadInTheLanguageOfTheProgram();
     void stopKeepsTheTarget();
     void failureClosesAndFreesTheButton();
     void freeCloseButtonStopsTheDialog();
@@ -1007,6 +1010,32 @@ void CProgressWidgetTest::stopOfARestoredScanTells()
     QCOMPARE(restored.size(), 1);
     QVERIFY(visibleWhenTold);
     QVERIFY(dialog.isHidden());
+}
+
+void CProgressWidgetTest::titlesCountAsTheyReadInTheLanguageOfTheProgram()
+{
+    QVERIFY(LoadCustomControlsTranslation(QLocale(QLocale::English)));
+    const auto chinese = qScopeGuard([] { LoadCustomControlsTranslation(QLocale(QLocale::Chinese)); });
+    const auto translated = [](const QString& title) {
+        return QCoreApplication::translate("CProgressWidget", title.toUtf8().constData());
+    };
+    CProgressWidget dialog(nullptr);
+    QSignalSpy restored(&dialog, &CProgressWidget::closeRestoreScan);
+    const auto staysAfterStop = [&dialog](const QString& title) {
+        dialog.setProText(kMessage, title);
+        dialog.show();
+        dialog.stop();
+        return dialog.isVisible();
+    };
+    for (const QString& title : {kStitchTitle, kSurfaceTitle}) {
+        QVERIFY(translated(title) != title);
+        QVERIFY2(staysAfterStop(translated(title)), qPrintable(title));
+        QVERIFY2(!staysAfterStop(title), qPrintable(title)); // another language's title is one like any other
+    }
+    QVERIFY(!staysAfterStop(kRestoreTitle));
+    QCOMPARE(restored.size(), 0);
+    QVERIFY(!staysAfterStop(translated(kRestoreTitle)));
+    QCOMPARE(restored.size(), 1);
 }
 
 void CProgressWidgetTest::stopKeepsTheTarget()
