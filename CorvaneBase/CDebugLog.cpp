@@ -1,5 +1,7 @@
 #include <CorvaneBase/CDebugLog.h>
 
+#include <CorvaneBase/ThreadSafety_p.h>
+
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
@@ -21,7 +23,7 @@ class LogWriter
 public:
     void SetPath(const QString& path)
     {
-        const QMutexLocker lock(&m_mutex);
+        const CheckedLocker lock(m_mutex);
         m_file.close();
         m_path = path.isEmpty() ? QString() : QFileInfo(path).absoluteFilePath();
         m_rotateAt = kRotateBytes;
@@ -29,13 +31,13 @@ public:
 
     QString Path()
     {
-        const QMutexLocker lock(&m_mutex);
+        const CheckedLocker lock(m_mutex);
         return CurrentPath();
     }
 
     void Write(const QString& line)
     {
-        const QMutexLocker lock(&m_mutex);
+        const CheckedLocker lock(m_mutex);
         // The offset makes lines comparable that were written before and after a change of the clock.
         const QDateTime now = QDateTime::currentDateTime();
         const QString time = now.toOffsetFromUtc(now.offsetFromUtc()).toString(Qt::ISODateWithMs);
@@ -51,7 +53,7 @@ public:
     }
 
 private:
-    QString CurrentPath() const
+    QString CurrentPath() const CORVANE_REQUIRES(m_mutex)
     {
         if (!m_path.isEmpty()) {
             return m_path;
@@ -62,7 +64,7 @@ private:
 
     // The file may have been removed, or moved away by another process: then the path leads to nothing or to another
     // file.
-    bool IsOpenInPlace() const
+    bool IsOpenInPlace() const CORVANE_REQUIRES(m_mutex)
     {
         if (!m_file.isOpen()) {
             return false;
@@ -71,7 +73,7 @@ private:
         return inPlace.exists() && inPlace.size() == m_file.size();
     }
 
-    bool Open()
+    bool Open() CORVANE_REQUIRES(m_mutex)
     {
         m_file.close();
         m_file.setFileName(CurrentPath());
@@ -80,7 +82,7 @@ private:
         return m_file.open(mode) || (QDir().mkpath(QFileInfo(m_file.fileName()).absolutePath()) && m_file.open(mode));
     }
 
-    bool Rotate(qint64 size)
+    bool Rotate(qint64 size) CORVANE_REQUIRES(m_mutex)
     {
         m_file.close();
         const QString path = m_file.fileName();
@@ -91,10 +93,10 @@ private:
         return Open();
     }
 
-    QMutex m_mutex;
-    QString m_path;
-    QFile m_file;
-    qint64 m_rotateAt = kRotateBytes;
+    CheckedMutex<QMutex> m_mutex;
+    QString m_path CORVANE_GUARDED_BY(m_mutex);
+    QFile m_file CORVANE_GUARDED_BY(m_mutex);
+    qint64 m_rotateAt CORVANE_GUARDED_BY(m_mutex) = kRotateBytes;
 };
 
 class LogListener
@@ -102,7 +104,7 @@ class LogListener
 public:
     void Set(Listener listener)
     {
-        const QMutexLocker lock(&m_mutex);
+        const CheckedLocker lock(m_mutex);
         m_listener = listener ? std::make_shared<Listener>(std::move(listener)) : nullptr;
     }
 
@@ -112,7 +114,7 @@ public:
         if (telling) {
             return;
         }
-        const QMutexLocker lock(&m_mutex);
+        const CheckedLocker lock(m_mutex);
         // Kept alive here: a listener may replace itself.
         const std::shared_ptr<Listener> listener = m_listener;
         if (listener) {
@@ -122,8 +124,8 @@ public:
     }
 
 private:
-    QRecursiveMutex m_mutex;
-    std::shared_ptr<Listener> m_listener;
+    CheckedMutex<QRecursiveMutex> m_mutex;
+    std::shared_ptr<Listener> m_listener CORVANE_GUARDED_BY(m_mutex);
 };
 
 // Both live until the process ends: a destructor that runs at exit may still log.

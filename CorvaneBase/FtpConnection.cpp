@@ -1,5 +1,7 @@
 #include <CorvaneBase/FtpConnection.h>
 
+#include <CorvaneBase/ThreadSafety_p.h>
+
 #include <QElapsedTimer>
 #include <QHostAddress>
 #include <QMutex>
@@ -13,8 +15,8 @@ constexpr int kGreetingMs = 3000;
 constexpr int kFarewellMs = 500;
 constexpr qint64 kGreetingBytes = 4096; // a service that floods is not read any further
 
-QMutex g_providerMutex;
-std::function<bool(const QString&)> g_provider;
+CheckedMutex<QMutex> g_providerMutex;
+std::function<bool(const QString&)> g_provider CORVANE_GUARDED_BY(g_providerMutex);
 
 bool ProbeFileService(const QString& ip)
 {
@@ -56,7 +58,7 @@ bool FtpConnection(const QString& ip)
 {
     std::function<bool(const QString&)> provider;
     {
-        const QMutexLocker lock(&g_providerMutex);
+        const CheckedLocker lock(g_providerMutex);
         provider = g_provider;
     }
     return provider ? provider(ip) : ProbeFileService(ip);
@@ -64,6 +66,6 @@ bool FtpConnection(const QString& ip)
 
 void SetFtpConnectionProvider(std::function<bool(const QString& ip)> provider)
 {
-    const QMutexLocker lock(&g_providerMutex);
+    const CheckedLocker lock(g_providerMutex);
     g_provider = std::move(provider);
 }

@@ -2,6 +2,7 @@
 
 #include <CorvaneBase/CDebugLog.h>
 #include <CorvaneBase/NetworkConfigurator_p.h>
+#include <CorvaneBase/ThreadSafety_p.h>
 
 #include <QCoreApplication>
 #include <QMutex>
@@ -27,8 +28,8 @@ constexpr int kSecondPortMs = 500;
 constexpr quint16 kFilePort = 21;
 constexpr quint16 kQueryPort = 5002;
 
-QMutex g_providerMutex;
-std::function<NetworkConfigurator::Result(int)> g_provider;
+CheckedMutex<QMutex> g_providerMutex;
+std::function<NetworkConfigurator::Result(int)> g_provider CORVANE_GUARDED_BY(g_providerMutex);
 
 /** What the user reads. */
 struct Texts
@@ -284,7 +285,7 @@ NetworkConfigurator::Result NetworkConfigurator::autoDiscoverAndConfigureCnc(int
 {
     std::function<Result(int)> provider;
     {
-        const QMutexLocker lock(&g_providerMutex);
+        const CheckedLocker lock(g_providerMutex);
         provider = g_provider;
     }
     if (provider) {
@@ -296,6 +297,6 @@ NetworkConfigurator::Result NetworkConfigurator::autoDiscoverAndConfigureCnc(int
 
 void NetworkConfigurator::SetProvider(std::function<Result(int)> provider)
 {
-    const QMutexLocker lock(&g_providerMutex);
+    const CheckedLocker lock(g_providerMutex);
     g_provider = std::move(provider);
 }
