@@ -1,5 +1,6 @@
 #include <CustomControls/menus/CTableComboBox.h>
 
+#include <CustomControls/accessibility/KeyboardFocus.h>
 #include <CustomControls/menus/CDelegateComboBox.h>
 
 #include <CorvaneBase/CorvaneFonts.h>
@@ -23,6 +24,7 @@ CTableComboBox::CTableComboBox(QWidget* parent)
 {
     setStyleSheet(kSheet);
     setFont(FontCnMedium_13);
+    KeyboardFocus::ShowOn(this);
     auto* delegate = new CDelegateComboBox;
     setItemDelegate(delegate);
     // It has no parent, so that the view's end is not its own; unless another took its place, it goes with the box.

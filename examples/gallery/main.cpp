@@ -9,6 +9,7 @@
 #include <CorvaneBase/CorvaneSignalHelper.h>
 #include <CorvaneBase/CorvaneTextHelper.h>
 #include <CustomControls/CCustomAppStyle.h>
+#include <CustomControls/feedback/ToolTipEventFilter.h>
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -49,6 +50,7 @@ void SetLook()
     }
     QApplication::setPalette(palette);
     QApplication::setFont(FontCn_14);
+    qApp->installEventFilter(new ToolTipEventFilter(qApp)); // frosted tips, whatever shows them
 }
 } // namespace
 

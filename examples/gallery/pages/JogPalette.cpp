@@ -18,7 +18,7 @@ constexpr auto KeySheet = "QPushButton{border:1px solid #e2e2e2;border-radius:4p
                           "QPushButton:pressed{background:#e4f2eb;}";
 } // namespace
 
-JogPalette::JogPalette(QObject* toolTipFilter, QWidget* parent)
+JogPalette::JogPalette(QWidget* parent)
     : QWidget(parent, Qt::Tool | Qt::FramelessWindowHint)
 {
     setObjectName(QStringLiteral("jogPalette"));
@@ -51,7 +51,6 @@ JogPalette::JogPalette(QObject* toolTipFilter, QWidget* parent)
         button->setStyleSheet(QLatin1String(KeySheet));
         button->setFocusPolicy(Qt::NoFocus);
         button->setToolTip(key.tip);
-        button->installEventFilter(toolTipFilter);
         grid->addWidget(button, key.row, key.column);
     }
     auto* layout = new QGridLayout(this);

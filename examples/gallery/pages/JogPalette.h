@@ -8,8 +8,7 @@ class JogPalette : public QWidget
     Q_OBJECT
 
 public:
-    /** @param toolTipFilter shows the keys' tool tips */
-    JogPalette(QObject* toolTipFilter, QWidget* parent);
+    explicit JogPalette(QWidget* parent);
 
     /** Shows the panel at the place of a 3 by 3 grid over the screen: column and row from 0 to 2. */
     void DockAt(int column, int row);

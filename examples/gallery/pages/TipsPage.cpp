@@ -8,7 +8,6 @@
 #include <CustomControls/buttons/CHintTextToolTip.h>
 #include <CustomControls/buttons/CompactBrowser.h>
 #include <CustomControls/feedback/CFrostedToolTip.h>
-#include <CustomControls/feedback/ToolTipEventFilter.h>
 
 #include <QClipboard>
 #include <QFrame>
@@ -76,7 +75,6 @@ public:
 
 TipsPage::TipsPage(const GalleryOptions&)
     : m_pOutcome(AddOutcomeLine(QStringLiteral("tipOutcome")))
-    , m_pFilter(new ToolTipEventFilter(this))
 {
     m_pOutcome->setText(tr("把指针停在按钮上，提示会淡入；离开或 3.5 秒后淡出。"));
     BeginRow();
@@ -127,9 +125,8 @@ void TipsPage::AddToolBar()
         button->setIconSize(own.boundedTo(QSize(ToolIconSize, ToolIconSize)));
         button->setStyleSheet(QLatin1String(ToolSheet));
         button->setCursor(Qt::PointingHandCursor);
-        button->setToolTip(tool.tip);
+        button->setToolTip(tool.tip); // frosted by the filter that main() gives the whole program
         button->setAccessibleName(QTextDocumentFragment::fromHtml(tool.tip).toPlainText().simplified());
-        button->installEventFilter(m_pFilter);
         connect(button, &QPushButton::clicked, this,
                 [this, button] { m_pOutcome->setText(tr("点击：%1").arg(button->objectName())); });
         row->addWidget(button);
@@ -154,7 +151,7 @@ void TipsPage::AddEdges()
                               isClose ? QStringLiteral("dockClose") : QStringLiteral("dock%1%2").arg(column).arg(row));
             connect(dock, &QPushButton::clicked, this, [this, column, row, isClose] {
                 if (!m_pPalette) {
-                    m_pPalette = new JogPalette(m_pFilter, this);
+                    m_pPalette = new JogPalette(this);
                 }
                 if (isClose) {
                     m_pPalette->hide();

@@ -6,7 +6,6 @@
 class CHintButton;
 class JogPalette;
 class QGridLayout;
-class ToolTipEventFilter;
 
 /** Frosted tool tips in a tool bar and at each edge of the screen, and hint notes beside parameters. */
 class TipsPage : public GalleryPage
@@ -30,6 +29,5 @@ private:
                               const QString& hintName);
 
     QLabel* m_pOutcome;
-    ToolTipEventFilter* m_pFilter;
     JogPalette* m_pPalette = nullptr;
 };

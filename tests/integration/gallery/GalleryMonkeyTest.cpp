@@ -6,6 +6,7 @@
 #include <CorvaneBase/CorvaneRegisterHelper.h>
 #include <CorvaneBase/FtpConnection.h>
 #include <CorvaneBase/NetworkConfigurator.h>
+#include <CustomControls/feedback/ToolTipEventFilter.h>
 #include <examples/gallery/GalleryLanguage.h>
 #include <examples/gallery/PageRegistry.h>
 #include <tests/support/TestEnvironment.h>
@@ -135,6 +136,7 @@ int main(int argc, char* argv[])
     QApplication::setQuitOnLastWindowClosed(false);
     const TestEnvironment environment;
     const Desktop desktop;
+    app.installEventFilter(new ToolTipEventFilter(&app)); // as the gallery's own main does
 
     QCommandLineParser parser;
     parser.addHelpOption();
