@@ -106,11 +106,15 @@ CSelectMachineBox::CSelectMachineBox(QWidget* parent)
     : CVelmarSelectBox(parent)
     , ui(new Ui::CSelectMachineBox)
 {
-    // setupUi connects every slot by its name again, those of the shell included; its close button shall close once.
+    // Every slot is connected by its name again, those of the shell included; its close button shall close once.
     if (const auto* closeButton = findChild<QPushButton*>(QStringLiteral("m_btnClose"))) {
         disconnect(closeButton, nullptr, this, nullptr);
     }
-    ui->setupUi(this);
+    // Built where it stays: with a move of the whole content the toolkit would read every style sheet within anew.
+    ui->setupUi(findChild<QWidget*>(QStringLiteral("m_widgetMain")));
+    ui->stackedWidget->addWidget(ui->pageConnect);
+    ui->stackedWidget->addWidget(ui->pageConfig);
+    QMetaObject::connectSlotsByName(this);
     // The outer layout of the panel's form: owned by the panel like that of the shell, which is the one in use.
     auto* outerLayout = new QVBoxLayout;
     outerLayout->setObjectName(QStringLiteral("verticalLayout"));
