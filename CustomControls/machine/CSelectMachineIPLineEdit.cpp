@@ -41,6 +41,7 @@ CSelectMachineIPLineEdit::CSelectMachineIPLineEdit(QWidget* parent)
     , ui(new Ui::CSelectMachineIPLineEdit)
 {
     ui->setupUi(this);
+    QMetaObject::connectSlotsByName(this);
     setAttribute(Qt::WA_StyledBackground, true);
     ui->titleLabel->setFont(FontCnMedium_14);
     ui->lineEdit->setFont(FontCn_14);

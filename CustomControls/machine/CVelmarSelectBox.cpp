@@ -21,6 +21,7 @@ CVelmarSelectBox::CVelmarSelectBox(QWidget* parent)
     , ui(new Ui::CVelmarSelectBox)
 {
     ui->setupUi(this);
+    QMetaObject::connectSlotsByName(this);
     const QIcon icon(QStringLiteral(":/icon/selectbox/base/icon_scanning_right_inf_maopi.png"));
     ui->m_labelBoxIcon->setPixmap(icon.pixmap(BoxIconSize, QIcon::Normal, QIcon::Off));
     ui->m_labelHint->hide();

@@ -349,6 +349,9 @@ void CCustomMenu::SetEnabled(int id, bool enabled)
 bool CCustomMenu::eventFilter(QObject* obj, QEvent* event)
 {
     const QEvent::Type type = event->type();
+    if (type == QEvent::PolishRequest && obj == ui->m_widgetMenu && !isVisible()) {
+        return true;
+    }
     if (type == QEvent::ChildRemoved && obj == ui->m_widgetMenu && !ui->m_layoutWidgetMenu->isEnabled()) {
         // A layout that is held back doesn't let go of its entries by itself. This one may be half destroyed already.
         const QObject* gone = static_cast<QChildEvent*>(event)->child();
@@ -399,6 +402,12 @@ void CCustomMenu::showEvent(QShowEvent* event)
 bool CCustomMenu::event(QEvent* event)
 {
     switch (event->type()) {
+    case QEvent::PolishRequest:
+        // The toolkit would read the sheets of all rows of a menu that waits. They are read when it opens.
+        if (!isVisible()) {
+            return true;
+        }
+        break;
     case QEvent::Show:
         TellEvent(this, QAccessible::PopupMenuStart);
         break;
@@ -427,7 +436,10 @@ CCustomMenuItem* CCustomMenu::AddRow(const QString& text, const QString& shortcu
                                      const QString& iconHover, const QString& iconDisabled, bool hasSubMenu)
 {
     // Made where the layout would put it anyway: to move a row with its labels costs as much as to make it.
-    auto* row = new CCustomMenuItem(ui->m_widgetMenu, text, shortcut, icon, iconHover, iconDisabled, hasSubMenu);
+    // With the menu's font, which a parent that wears a sheet doesn't hand down.
+    const QFont font = this->font();
+    auto* row =
+        new CCustomMenuItem(ui->m_widgetMenu, &font, text, shortcut, icon, iconHover, iconDisabled, hasSubMenu);
     // A sub-menu outlives its row. That of a row which once lay at the same address is not this one's.
     if (CCustomMenu* rowless = m_hashSubMenus.take(row)) {
         m_listRowlessSubMenus.append(rowless);
@@ -440,7 +452,6 @@ CCustomMenuItem* CCustomMenu::AddRow(const QString& text, const QString& shortcu
     row->setObjectName(hasSubMenu ? kSubMenuRowName : kRowName);
     row->installEventFilter(this);
 
-    row->setFont(font()); // a parent that wears a sheet hands no font down
     const QFontMetrics metrics(row->font());
     m_iMaxTextWidth = std::max(m_iMaxTextWidth, metrics.horizontalAdvance(text));
     m_iMaxShortcutWidth = std::max(m_iMaxShortcutWidth, metrics.horizontalAdvance(shortcut));
@@ -602,11 +613,12 @@ void CCustomMenu::PrepareLater(QWidget* entry, const QSize& size)
     for (QWidget* part : parts) {
         QCoreApplication::removePostedEvents(part);
     }
-    if (isVisible()) {
-        // Where the layout is going to put it: shown elsewhere it could come under the cursor and take the hover.
-        const QMargins margins = ui->m_layoutWidgetMenu->contentsMargins();
-        entry->setGeometry(QRect(QPoint(margins.left(), height() - margins.bottom() - size.height()), size));
+    if (!isVisible()) {
+        return; // the menu's showing does it
     }
+    // Where the layout is going to put it: shown elsewhere it could come under the cursor and take the hover.
+    const QMargins margins = ui->m_layoutWidgetMenu->contentsMargins();
+    entry->setGeometry(QRect(QPoint(margins.left(), height() - margins.bottom() - size.height()), size));
     if (m_listNewEntries.isEmpty()) {
         QMetaObject::invokeMethod(this, &CCustomMenu::PrepareNewEntries, Qt::QueuedConnection);
     }

@@ -58,6 +58,12 @@ const AccessibleFactory::Registration<CCustomMenuItem, CCustomMenuItemAccessible
 
 CCustomMenuItem::CCustomMenuItem(QWidget* parent, const QString& text, const QString& shortcut, const QString& icon,
                                  const QString& iconHover, const QString& iconDisabled, bool hasSubMenu)
+    : CCustomMenuItem(parent, nullptr, text, shortcut, icon, iconHover, iconDisabled, hasSubMenu)
+{}
+
+CCustomMenuItem::CCustomMenuItem(QWidget* parent, const QFont* font, const QString& text, const QString& shortcut,
+                                 const QString& icon, const QString& iconHover, const QString& iconDisabled,
+                                 bool hasSubMenu)
     : QWidget(parent)
     , ui(new Ui::CCustomMenuItem)
     , m_strIcon(icon)
@@ -66,6 +72,9 @@ CCustomMenuItem::CCustomMenuItem(QWidget* parent, const QString& text, const QSt
     , m_bHasSubMenu(hasSubMenu)
 {
     ui->setupUi(this);
+    if (font) {
+        setFont(*font);
+    }
     setObjectName(QStringLiteral("MenuItem"));
     setStyleSheet(kRowSheet);
 
@@ -82,9 +91,10 @@ CCustomMenuItem::CCustomMenuItem(QWidget* parent, const QString& text, const QSt
     m_strFocusTextColor = colors.strFocusText;
     m_strHoverColor = colors.strHover;
 
-    const QFont font = CorvaneTextHelper::instance()->AppInChineseEnvironment() ? FontCnMedium_14 : FontCnMedium_13;
-    ui->m_labelText->setFont(font);
-    ui->m_labelShortCut->setFont(font);
+    const QFont& textFont =
+        CorvaneTextHelper::instance()->AppInChineseEnvironment() ? FontCnMedium_14 : FontCnMedium_13;
+    ui->m_labelText->setFont(textFont);
+    ui->m_labelShortCut->setFont(textFont);
     if (!m_strIcon.isEmpty()) {
         ShowIcon(m_iconRest, m_strIcon);
     }

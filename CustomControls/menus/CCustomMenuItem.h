@@ -109,8 +109,13 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
 
 private:
+    friend class CCustomMenu;
     friend class CCustomMenuItemAccessible;
     friend class MenuKeyboard;
+
+    // With a font from the start: set on a row that wears its sheets, it would have them read once more.
+    CCustomMenuItem(QWidget* parent, const QFont* font, const QString& text, const QString& shortcut,
+                    const QString& icon, const QString& iconHover, const QString& iconDisabled, bool hasSubMenu);
 
     void setEnabled(bool enabled);
     QString ShortcutText() const;
