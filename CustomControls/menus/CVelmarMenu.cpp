@@ -3,6 +3,7 @@
 #include "ui_CVelmarMenu.h"
 
 #include <CorvaneBase/CorvaneFonts.h>
+#include <CustomControls/PolishWhenShown.h>
 #include <CustomControls/accessibility/AccessibleFactory.h>
 #include <CustomControls/buttons/CVelmarButton.h>
 #include <CustomControls/menus/CVelmarMenuAccessible.h>
@@ -135,6 +136,10 @@ public:
 
     bool event(QEvent* event) override
     {
+        // The sheet is read when the menu opens.
+        if (event->type() == QEvent::PolishRequest && !isVisible()) {
+            return true;
+        }
         // Each widget that is shown asks for it, and each request is compared with all siblings.
         if (event->type() == QEvent::UpdateLater && visibleRegion().isEmpty()) {
             return true;
@@ -204,6 +209,7 @@ CVelmarMenu::CVelmarMenu(QWidget* parent)
     , ui(new Ui::CVelmarMenu)
 {
     ui->setupUi(this);
+    PolishWhenShown(this);
     ui->m_layoutWidgetMenu->setSpacing(kGap);
     setFocusPolicy(Qt::ClickFocus);
     m_timerLayout.setSingleShot(true);
@@ -286,6 +292,7 @@ void CVelmarMenu::AddListWidgetButton(const QString& text)
 void CVelmarMenu::AddMenuItem(const QString& text, const QString& icon, const QString& shortcut)
 {
     auto* item = new CVelmarMenuItem(ui->m_widgetMenu, text, shortcut, icon, QString(), false);
+    PolishWhenShown(item);
     item->SetMenuStyle(m_eMenuStyle);
     item->SetItemSize(m_iWidth, m_iItemHeight, 0, 0);
     connect(item, &QObject::destroyed, this, [this, item] { ItemGone(item); });
