@@ -89,6 +89,19 @@ protected:
     }
 };
 
+/** A push button outside of layouts, which needs no margins for them: to learn them it would load its pictures twice. */
+class PlacedButton : public QPushButton
+{
+public:
+    using QPushButton::QPushButton;
+
+protected:
+    bool event(QEvent* event) override
+    {
+        return event->type() == QEvent::StyleChange ? QAbstractButton::event(event) : QPushButton::event(event);
+    }
+};
+
 const AccessibleFactory::Registration<CProgressWidget, CProgressWidgetAccessible> kAccessible;
 
 } // namespace
@@ -116,7 +129,7 @@ CProgressWidget::CProgressWidget(QWidget* parent)
     ui->label_7->setWordWrap(true);
     SetBarValue(0);
 
-    m_pBtnClose = new QPushButton(this);
+    m_pBtnClose = new PlacedButton(this);
     m_pBtnClose->setStyleSheet(QString::fromLatin1(kCloseButtonSheet));
     m_pBtnClose->setFixedSize(kCloseButtonSize, kCloseButtonSize);
     m_pBtnClose->move(width() - kCloseButtonSize - kCloseButtonMargin, kCloseButtonMargin);
