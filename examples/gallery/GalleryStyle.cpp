@@ -32,5 +32,10 @@ QString GalleryStyle::ScrollBars()
                           "QScrollBar::handle:vertical{background:#cfcfcf;min-height:40px;border-radius:5px;}"
                           "QScrollBar::handle:vertical:hover{background:#aaaaaa;}"
                           "QScrollBar::add-line:vertical,QScrollBar::sub-line:vertical{border:none;height:0;}"
-                          "QScrollBar::add-page:vertical,QScrollBar::sub-page:vertical{background:none;}");
+                          "QScrollBar::add-page:vertical,QScrollBar::sub-page:vertical{background:none;}"
+                          "QScrollBar:horizontal{border:none;background:transparent;height:10px;margin:0;}"
+                          "QScrollBar::handle:horizontal{background:#cfcfcf;min-width:40px;border-radius:5px;}"
+                          "QScrollBar::handle:horizontal:hover{background:#aaaaaa;}"
+                          "QScrollBar::add-line:horizontal,QScrollBar::sub-line:horizontal{border:none;width:0;}"
+                          "QScrollBar::add-page:horizontal,QScrollBar::sub-page:horizontal{background:none;}");
 }

@@ -26,7 +26,7 @@ QString CommandButton(bool primary);
 /** A drop-down menu of the ribbon. */
 QString Menu();
 
-/** Scroll bars of the page area and the log pane. */
+/** Scroll bars of the page area, the log pane and the lines of an example. */
 QString ScrollBars();
 
 } // namespace GalleryStyle

@@ -52,6 +52,7 @@ SourceDialog::SourceDialog(QWidget* window)
     m_pText->setObjectName(QStringLiteral("sourceText"));
     m_pText->setStyleSheet(QLatin1String(TextSheet));
     m_pText->verticalScrollBar()->setStyleSheet(GalleryStyle::ScrollBars());
+    m_pText->horizontalScrollBar()->setStyleSheet(GalleryStyle::ScrollBars());
     m_pText->setFont(CodeFont());
     m_pText->setTabStopDistance(TabColumns * QFontMetricsF(CodeFont()).horizontalAdvance(QLatin1Char(' ')));
     m_pText->setLineWrapMode(QTextEdit::NoWrap);
