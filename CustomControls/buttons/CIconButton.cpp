@@ -1,5 +1,6 @@
 #include <CustomControls/buttons/CIconButton.h>
 
+#include <CustomControls/SharpPixmap_p.h>
 #include <CustomControls/accessibility/AccessibleFactory.h>
 #include <CustomControls/accessibility/KeyboardFocus.h>
 #include <CustomControls/buttons/CIconButtonAccessible.h>
@@ -27,7 +28,7 @@ CIconButton::CIconButton(QWidget* parent)
 void CIconButton::SetIcon(const QString& icon)
 {
     m_strIcon = icon;
-    m_pixIcon = QPixmap(icon);
+    m_pixIcon = SharpPixmap(icon);
 }
 
 void CIconButton::SetText(const QString& text)

@@ -1,6 +1,7 @@
 #include <CustomControls/buttons/CSelectButton.h>
 
 #include <CorvaneBase/CorvaneFonts.h>
+#include <CustomControls/SharpPixmap_p.h>
 #include <CustomControls/accessibility/AccessibleFactory.h>
 #include <CustomControls/accessibility/KeyboardFocus.h>
 #include <CustomControls/buttons/CSelectButtonAccessible.h>
@@ -36,7 +37,7 @@ const AccessibleFactory::Registration<CSelectButton, CSelectButtonAccessible> kA
 
 CSelectButton::CSelectButton(QWidget* parent)
     : QPushButton(parent)
-    , m_pixMark(QIcon(kMark).pixmap(SizeOfPicture(kMark), QIcon::Normal, QIcon::Off))
+    , m_pixMark(SharpPixmap(kMark))
 {
     setFont(FontCnMedium_14);
     setCheckable(true);
@@ -49,6 +50,7 @@ void CSelectButton::setIcon(const QString& path)
     m_strIcon = path;
     m_icon = QIcon(path);
     m_sizeIcon = SizeOfPicture(path);
+    m_pixIcon = SharpPixmap(m_icon, m_sizeIcon);
 }
 
 void CSelectButton::setText(const QString& text)
@@ -79,7 +81,7 @@ void CSelectButton::paintEvent(QPaintEvent*)
         painter.drawRoundedRect(frame, kRadius, kRadius);
     }
 
-    painter.drawPixmap(QRect(QPoint(x, y), m_sizeIcon), m_icon.pixmap(m_sizeIcon, QIcon::Normal, QIcon::Off));
+    painter.drawPixmap(QRect(QPoint(x, y), m_sizeIcon), m_pixIcon);
 
     painter.setPen(kCaption);
     painter.drawText(QRect(kCaptionMargin, height() - kCaptionHeight - y, width() - 2 * kCaptionMargin, kCaptionHeight),

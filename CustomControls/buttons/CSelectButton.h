@@ -60,4 +60,5 @@ private:
     QString m_strText;
     QString m_strIcon; // where m_icon was read from
     QPixmap m_pixMark; // the mark of a checked tile, read once
+    QPixmap m_pixIcon; // m_icon at m_sizeIcon
 };

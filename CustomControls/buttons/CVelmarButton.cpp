@@ -1,6 +1,7 @@
 #include <CustomControls/buttons/CVelmarButton.h>
 
 #include <CorvaneBase/CorvaneFonts.h>
+#include <CustomControls/SharpPixmap_p.h>
 #include <CustomControls/accessibility/AccessibleFactory.h>
 #include <CustomControls/accessibility/KeyboardFocus.h>
 #include <CustomControls/buttons/CMultiLineLabel.h>
@@ -440,7 +441,7 @@ void CVelmarButton::SetBackgroundGradient(StructGradientColor normal, StructGrad
 void CVelmarButton::SetBackgroundImage(const QString& normal, const QString& pressed, const QString& hover,
                                        const QString& chosen)
 {
-    const auto render = [this](const QString& path) { return QIcon(path).pixmap(size(), QIcon::Normal, QIcon::Off); };
+    const auto render = [this](const QString& path) { return SharpPixmap(QIcon(path), size()); };
     SetLooks(m_pixBackground, render(normal), render(pressed), render(hover), render(chosen));
     m_bHasBackgroundImage = true;
     SetButtonStyle();

@@ -2,6 +2,7 @@
 #include <CustomControls/feedback/ToastWidget.h>
 
 #include <CorvaneBase/CorvaneFonts.h>
+#include <CustomControls/SharpPixmap_p.h>
 #include <CustomControls/accessibility/AccessibleFactory.h>
 #include <CustomControls/feedback/ToastWidgetAccessible.h>
 #include <CustomControls/platform/ClickThrough.h>
@@ -121,7 +122,7 @@ QString ToastWidget::Message(ToastType type)
 
 void ToastWidget::SetIcon(const QString& path)
 {
-    ui->hintLabel->setPixmap(QPixmap(path));
+    ui->hintLabel->setPixmap(SharpPixmap(path));
     ui->hintLabel->resize(kWarnIconSize, kWarnIconSize);
 }
 

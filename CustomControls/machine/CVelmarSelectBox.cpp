@@ -3,6 +3,7 @@
 #include "ui_CVelmarSelectBox.h"
 
 #include <CorvaneBase/CorvaneFonts.h>
+#include <CustomControls/SharpPixmap_p.h>
 #include <CustomControls/accessibility/AccessibleFactory.h>
 #include <CustomControls/accessibility/KeyboardFocus.h>
 #include <CustomControls/accessibility/TranslatedName.h>
@@ -23,7 +24,7 @@ CVelmarSelectBox::CVelmarSelectBox(QWidget* parent)
     ui->setupUi(this);
     QMetaObject::connectSlotsByName(this);
     const QIcon icon(QStringLiteral(":/icon/selectbox/base/icon_scanning_right_inf_maopi.png"));
-    ui->m_labelBoxIcon->setPixmap(icon.pixmap(BoxIconSize, QIcon::Normal, QIcon::Off));
+    ui->m_labelBoxIcon->setPixmap(SharpPixmap(icon, BoxIconSize));
     ui->m_labelHint->hide();
     KeyboardFocus::ShowOn(ui->m_btnClose);
     SetTranslatedName(ui->m_btnClose, [] { return tr("关闭"); });
@@ -40,7 +41,7 @@ CVelmarSelectBox::~CVelmarSelectBox()
 
 void CVelmarSelectBox::SetBoxInfo(const QString& icon, const QString& title, const QString& confirmText)
 {
-    ui->m_labelBoxIcon->setPixmap(QIcon(icon).pixmap(BoxIconSize, QIcon::Normal, QIcon::Off));
+    ui->m_labelBoxIcon->setPixmap(SharpPixmap(QIcon(icon), BoxIconSize));
     ui->m_labelBoxName->setText(title);
     ui->m_btnConfirm->setText(confirmText);
 }

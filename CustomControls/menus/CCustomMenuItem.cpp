@@ -4,6 +4,7 @@
 
 #include <CorvaneBase/CorvaneFonts.h>
 #include <CorvaneBase/CorvaneTextHelper.h>
+#include <CustomControls/SharpPixmap_p.h>
 #include <CustomControls/accessibility/AccessibleFactory.h>
 #include <CustomControls/menus/CCustomMenuItemAccessible.h>
 #include <CustomControls/menus/MenuHelpers_p.h>
@@ -298,7 +299,7 @@ void CCustomMenuItem::ShowIcon(QIcon& icon, const QString& path)
     if (icon.isNull() && !path.isEmpty()) {
         icon = LoadIcon(path);
     }
-    ui->m_labelIcon->setPixmap(icon.pixmap(QSize(kIconEdge, kIconEdge)));
+    ui->m_labelIcon->setPixmap(SharpPixmap(icon, QSize(kIconEdge, kIconEdge)));
 }
 
 void CCustomMenuItem::ShowRestIcon()
@@ -318,7 +319,7 @@ void CCustomMenuItem::ShowArrow()
     if (m_iconArrow.isNull()) {
         m_iconArrow = QIcon(QString::fromLatin1(kArrowIcon));
     }
-    ui->m_labelArrow->setPixmap(m_iconArrow.pixmap(QSize(kArrowEdge, kArrowEdge), QIcon::Normal, QIcon::Off));
+    ui->m_labelArrow->setPixmap(SharpPixmap(m_iconArrow, QSize(kArrowEdge, kArrowEdge)));
 }
 
 void CCustomMenuItem::SetTextColor(const QString& color)

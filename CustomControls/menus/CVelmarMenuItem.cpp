@@ -3,6 +3,7 @@
 #include "ui_CVelmarMenuItem.h"
 
 #include <CorvaneBase/CorvaneFonts.h>
+#include <CustomControls/SharpPixmap_p.h>
 #include <CustomControls/accessibility/AccessibleFactory.h>
 #include <CustomControls/menus/CVelmarMenuItemAccessible.h>
 #include <CustomControls/menus/MenuHelpers_p.h>
@@ -60,8 +61,8 @@ CVelmarMenuItem::CVelmarMenuItem(QWidget* parent, const QString& text, const QSt
     , m_strIcon(icon)
     , m_strIconHover(iconHover.isEmpty() ? icon : iconHover)
     , m_bHasSubMenu(hasSubMenu)
-    , m_pixIcon(m_strIcon)
-    , m_pixIconHover(m_strIconHover)
+    , m_pixIcon(SharpPixmap(m_strIcon))
+    , m_pixIconHover(SharpPixmap(m_strIconHover))
 {
     ui->setupUi(this);
     setObjectName(QStringLiteral("MenuItem"));
@@ -74,8 +75,8 @@ CVelmarMenuItem::CVelmarMenuItem(QWidget* parent, const QString& text, const QSt
     ui->m_labelBlank->clear();
     ui->m_labelBlank->hide();
     if (m_bHasSubMenu) {
-        m_pixArrow.load(kArrow);
-        m_pixArrowFocus.load(kArrowFocus);
+        m_pixArrow = SharpPixmap(kArrow);
+        m_pixArrowFocus = SharpPixmap(kArrowFocus);
         ui->m_labelArrow->setPixmap(m_pixArrow);
     }
 
@@ -119,7 +120,7 @@ void CVelmarMenuItem::SetIcon(const QString& path)
 {
     m_strIcon = path;
     m_strIconHover = path;
-    m_pixIcon = QPixmap(path);
+    m_pixIcon = SharpPixmap(path);
     m_pixIconHover = m_pixIcon;
     ui->m_labelIcon->setPixmap(m_pixIcon);
 }

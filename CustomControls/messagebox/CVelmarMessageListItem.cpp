@@ -4,6 +4,7 @@
 
 #include <CorvaneBase/CorvaneFonts.h>
 #include <CorvaneBase/CorvaneTextHelper.h>
+#include <CustomControls/SharpPixmap_p.h>
 
 #include <QFontMetrics>
 #include <QFontMetricsF>
@@ -140,7 +141,7 @@ void CVelmarMessageListItem::SetTag(MachiningType type)
     QLabel* const other = tag.bWide ? ui->iconLabel : ui->semiIconlabel;
     const bool chinese = InChinese();
     const QIcon picture(QLatin1String(chinese ? tag.szChinese : tag.szEnglish));
-    label->setPixmap(picture.pixmap(kLargestTag, QIcon::Normal, QIcon::Off));
+    label->setPixmap(SharpPixmap(picture, kLargestTag));
     if (chinese) {
         // One size for all: the widest picture loses its right edge to it.
         label->resize(kChineseTagLabel);
