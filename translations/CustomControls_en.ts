@@ -67,7 +67,7 @@ Line: %3</translation>
     <name>CSelectMachineBox</name>
     <message>
         <source>请将本机手动配置以下数据后重试</source>
-        <translation>Set this computer up by hand as follows, then try again</translation>
+        <translation>Configure this computer manually as follows, then try again</translation>
     </message>
     <message>
         <source>打开网络和Internet</source>
@@ -107,11 +107,11 @@ Line: %3</translation>
     </message>
     <message>
         <source>自动配置</source>
-        <translation>Set up automatically</translation>
+        <translation>Automatic setup</translation>
     </message>
     <message>
         <source>自动连接失败，有线网卡未探测到机床</source>
-        <translation>Automatic connection failed: no machine was found on a wired adapter</translation>
+        <translation>Automatic connection failed: no machine on a wired adapter</translation>
     </message>
     <message>
         <source>连接中，请稍候...</source>
@@ -119,7 +119,7 @@ Line: %3</translation>
     </message>
     <message>
         <source>手动配置</source>
-        <translation>Set up by hand</translation>
+        <translation>Manual setup</translation>
     </message>
     <message>
         <source>新建连接</source>
@@ -155,15 +155,15 @@ Line: %3</translation>
     </message>
     <message>
         <source>获取机床序列号失败</source>
-        <translation>The machine&apos;s serial number could not be read</translation>
+        <translation>Could not read the machine&apos;s serial number</translation>
     </message>
     <message>
         <source>获取机床序列号失败：%1</source>
-        <translation>The machine&apos;s serial number could not be read: %1</translation>
+        <translation>Could not read the machine&apos;s serial number: %1</translation>
     </message>
     <message>
         <source>获取机床序列号失败：序列号为空</source>
-        <translation>The machine&apos;s serial number could not be read: it is empty</translation>
+        <translation>Could not read the machine&apos;s serial number: it is empty</translation>
     </message>
     <message>
         <source>连接超时，请检查机床连接状态</source>
@@ -183,15 +183,15 @@ Line: %3</translation>
     </message>
     <message>
         <source>机床连接失败</source>
-        <translation>The machine could not be connected</translation>
+        <translation>Could not connect to the machine</translation>
     </message>
     <message>
         <source>机床连接失败【%1】</source>
-        <translation>The machine could not be connected [%1]</translation>
+        <translation>Could not connect to the machine [%1]</translation>
     </message>
     <message>
         <source>正在进行自动配置并连接机床，请稍候</source>
-        <translation>Setting up and connecting the machine, please wait</translation>
+        <translation>Setting up the connection to the machine, please wait</translation>
     </message>
     <message>
         <source>连接机床</source>
@@ -199,11 +199,11 @@ Line: %3</translation>
     </message>
     <message>
         <source>机床连接失败!</source>
-        <translation>The machine could not be connected!</translation>
+        <translation>Could not connect to the machine!</translation>
     </message>
     <message>
         <source>获取机床序列号失败!</source>
-        <translation>The machine&apos;s serial number could not be read!</translation>
+        <translation>Could not read the machine&apos;s serial number!</translation>
     </message>
 </context>
 <context>
@@ -258,7 +258,7 @@ Line: %3</translation>
     </message>
     <message>
         <source>不再提醒</source>
-        <translation>Do not remind me again</translation>
+        <translation>Do not ask again</translation>
     </message>
     <message>
         <source>确定</source>
@@ -326,7 +326,7 @@ Line: %3</translation>
     </message>
     <message>
         <source>请确保已将刀具放置在对应库位。</source>
-        <translation>Make sure that each tool is in its place of the magazine.</translation>
+        <translation>Make sure each tool is in its assigned pocket.</translation>
     </message>
 </context>
 <context>
@@ -337,7 +337,7 @@ Line: %3</translation>
     </message>
     <message>
         <source>库位</source>
-        <translation>Place</translation>
+        <translation>Pocket</translation>
     </message>
     <message>
         <source>策略</source>
@@ -503,27 +503,27 @@ Line: %3</translation>
     </message>
     <message>
         <source>避空立铣刀</source>
-        <translation>Relieved end mill</translation>
+        <translation>Relieved mill</translation>
     </message>
     <message>
         <source>球头铣刀</source>
-        <translation>Ball nose mill</translation>
+        <translation>Ball end mill</translation>
     </message>
     <message>
         <source>避空球头铣刀</source>
-        <translation>Relieved ball nose mill</translation>
+        <translation>Relieved ball</translation>
     </message>
     <message>
         <source>圆鼻铣刀</source>
-        <translation>Bull nose mill</translation>
+        <translation>Bull nose</translation>
     </message>
     <message>
         <source>锥刀</source>
-        <translation>Engraving cutter</translation>
+        <translation>Engraver</translation>
     </message>
     <message>
         <source>锥度球头铣刀</source>
-        <translation>Tapered ball nose mill</translation>
+        <translation>Tapered ball</translation>
     </message>
     <message>
         <source>位置</source>

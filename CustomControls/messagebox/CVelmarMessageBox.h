@@ -185,8 +185,8 @@ public:
 
     /**
      * Shows, before a job starts, which tools its G-code uses and where they must stand in the magazine: one row per
-     * use, with the strategy's tag, and the tool's name, measures and place as CorvaneToolBitHelper knows them. At most
-     * nine rows are seen at once, the titles among them; the others are scrolled to.
+     * use, with the strategy's tag, and the tool's name, measures and pocket as CorvaneToolBitHelper knows them. At
+     * most nine rows are seen at once, the titles among them; the others are scrolled to.
      *
      * @param parent      owner and the window that the box is centred on; may be null
      * @param buttonMask  has no effect: the box has the one button MsgBtnOk
@@ -194,7 +194,7 @@ public:
      * @param title       an empty title hides the title line
      * @param roughTools, semiFinishTools, finishTools numbers of the tools of each strategy, in the order of the rows,
      *                    which stand in the order of the strategies; a number may come again. A number that the model
-     *                    does not have makes a row too, at the place -1
+     *                    does not have makes a row too, at the pocket -1
      * @param threadTools up to three tools for each thread; their rows stand in the order of the elements 1, 0, 2. An
      *                    element of -1 makes no row
      * @param textureTool -1 for none

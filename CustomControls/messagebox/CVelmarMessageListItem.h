@@ -20,7 +20,7 @@ enum MachiningType : int
 };
 
 /**
- * A row of the list in which a job's tools are confirmed: the strategy's tag, the tool's name and size, and its place
+ * A row of the list in which a job's tools are confirmed: the strategy's tag, the tool's name and size, and its pocket
  * in the magazine; or the titles of these columns. A row is 436 x 35 pixels and keeps that size. CVelmarMessageBox's
  * ShowGCodeConfirmWindow fills its list with them; a host that shows such a list of its own owns its rows through their
  * parent, or hands them to a view as item widgets.
@@ -48,7 +48,7 @@ public:
      * @param name     of the tool; what is wider than 100 pixels (or what the columns leave) is elided, and the tool
      *                 tip has it in full
      * @param detail   the tool's measures in words
-     * @param location the place in the magazine, shown with a "T" before it
+     * @param location the pocket in the magazine, shown with a "T" before it
      * @param type     picks the tag; a value outside MachiningType leaves the tag empty
      * @param flag     has no effect
      */

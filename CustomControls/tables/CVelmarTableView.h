@@ -36,7 +36,7 @@ class CVelmarTableView : public QTableView
 public:
     /**
      * @param parent   the owner; may be null
-     * @param ballMode true: ball nose mills (types 3 and 7) can be chosen; false: end mills (type 1)
+     * @param ballMode true: ball end mills (types 3 and 7) can be chosen; false: end mills (type 1)
      */
     CVelmarTableView(QWidget* parent, bool ballMode);
     ~CVelmarTableView() override;
