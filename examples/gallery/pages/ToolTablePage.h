@@ -5,7 +5,7 @@
 
 class ToolTable;
 
-/** The magazine's tools before a job: one table for the end mill, one for the ball nose, and their confirmation. */
+/** The magazine's tools before a job: one table for the end mill, one for the ball end mill, and their confirmation. */
 class ToolTablePage : public GalleryPage
 {
     Q_OBJECT

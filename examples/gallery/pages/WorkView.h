@@ -3,7 +3,7 @@
 #include <QWidget>
 
 /**
- * A workpiece on the machine's table, as a CAM program shows it: grid, axes, stock and tool path, seen from one of four
+ * A workpiece on the machine's table, as a CAM program shows it: grid, axes, stock and toolpath, seen from one of four
  * sides.
  */
 class WorkView : public QWidget

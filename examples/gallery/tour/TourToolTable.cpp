@@ -62,7 +62,7 @@ TourGroup TourToolTable(Tour*)
         {QStringLiteral("choose an end mill"),
          [](TourInput& input) { ClickCell(input, "roughingTools", 1, TypeColumn); },
          [] { return Told(QStringLiteral("已选择刀具：T2 立铣刀，直径 4 mm"))() + Framed("roughingTools", 1); }});
-    steps.push_back({QStringLiteral("a ball nose is not taken for roughing"),
+    steps.push_back({QStringLiteral("a ball end mill is not taken for roughing"),
                      [](TourInput& input) { ClickCell(input, "roughingTools", 3, TypeColumn); },
                      [] {
                          QTableView* table = Table("roughingTools");
@@ -70,7 +70,7 @@ TourGroup TourToolTable(Tour*)
                                      QStringLiteral("the click has not arrived")) +
                                 Framed("roughingTools", 1);
                      }});
-    steps.push_back({QStringLiteral("choose a ball nose"),
+    steps.push_back({QStringLiteral("choose a ball end mill"),
                      [](TourInput& input) { ClickCell(input, "finishingTools", 3, TypeColumn); },
                      [] { return Told(QStringLiteral("已选择刀具：T4 球头铣刀"))() + Framed("finishingTools", 3); }});
     steps.push_back({QStringLiteral("edit a diameter"),

@@ -5,11 +5,11 @@
     <name>ButtonsPage</name>
     <message>
         <source>点击任意按钮，这里会显示它的名称。</source>
-        <translation>Click any button; its name is told here.</translation>
+        <translation>Click any button; its name is shown here.</translation>
     </message>
     <message>
         <source>刚才点击：%1</source>
-        <translation>Clicked last: %1</translation>
+        <translation>Last clicked: %1</translation>
     </message>
     <message>
         <source>图标</source>
@@ -29,19 +29,19 @@
     </message>
     <message>
         <source>图标，可选中</source>
-        <translation>Icon, chooses</translation>
+        <translation>Icon, checkable</translation>
     </message>
     <message>
         <source>文字，可选中</source>
-        <translation>Text, chooses</translation>
+        <translation>Text, checkable</translation>
     </message>
     <message>
         <source>图标与文字，可选中</source>
-        <translation>Icon and text, chooses</translation>
+        <translation>Icon and text, checkable</translation>
     </message>
     <message>
         <source>图标与图片，可选中</source>
-        <translation>Icon and picture, chooses</translation>
+        <translation>Icon and picture, checkable</translation>
     </message>
     <message>
         <source>生成刀路</source>
@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>下面一行可以选中：再次点击取消选中。</source>
-        <translation>Those of the lower row can be chosen; another click takes it back.</translation>
+        <translation>The lower row is checkable: a second click unchecks.</translation>
     </message>
     <message>
         <source>方料</source>
@@ -61,7 +61,7 @@
     </message>
     <message>
         <source>圆料</source>
-        <translation>Rod</translation>
+        <translation>Round bar</translation>
     </message>
     <message>
         <source>模型</source>
@@ -73,7 +73,7 @@
     </message>
     <message>
         <source>工具栏</source>
-        <translation>Tool row</translation>
+        <translation>Toolbar</translation>
     </message>
     <message>
         <source>竖排的图标与文字，四选一。</source>
@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>竖列的文字按钮，标出当前步骤。</source>
-        <translation>A column of texts that marks the current step.</translation>
+        <translation>A column of text buttons that marks the current step.</translation>
     </message>
     <message>
         <source>图标在左</source>
@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>方向与图标位置</source>
-        <translation>Orientation and place of the icon</translation>
+        <translation>Orientation and icon position</translation>
     </message>
     <message>
         <source>单色</source>
@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>图片背景，选中时打勾。</source>
-        <translation>Image background; the chosen one is ticked.</translation>
+        <translation>Image background; a tick marks the chosen one.</translation>
     </message>
     <message>
         <source>消息</source>
@@ -181,15 +181,15 @@
     </message>
     <message>
         <source>打开消息后气泡消失。</source>
-        <translation>Reading the messages takes the bubble away.</translation>
+        <translation>Opening the messages clears the bubble.</translation>
     </message>
     <message>
         <source>不可用</source>
-        <translation>Not available</translation>
+        <translation>Unavailable</translation>
     </message>
     <message>
         <source>等待机床连接</source>
-        <translation>Waits for a machine</translation>
+        <translation>Waiting for a machine</translation>
     </message>
     <message>
         <source>禁用</source>
@@ -197,14 +197,14 @@
     </message>
     <message>
         <source>点击不会发出信号。</source>
-        <translation>A click sends no signal.</translation>
+        <translation>A click emits no signal.</translation>
     </message>
 </context>
 <context>
     <name>CombosPage</name>
     <message>
         <source>选择任意一项，这里会显示结果。</source>
-        <translation>Choose any entry; the outcome is told here.</translation>
+        <translation>Choose any entry; the result is shown here.</translation>
     </message>
     <message>
         <source>材料</source>
@@ -236,7 +236,7 @@
     </message>
     <message>
         <source>球头刀 %1</source>
-        <translation>Ball mill %1</translation>
+        <translation>Ball end mill %1</translation>
     </message>
     <message>
         <source>钻头 %1</source>
@@ -252,7 +252,7 @@
     </message>
     <message>
         <source>分层粗加工</source>
-        <translation>Roughing in layers</translation>
+        <translation>Z-level roughing</translation>
     </message>
     <message>
         <source>等高精加工</source>
@@ -264,11 +264,11 @@
     </message>
     <message>
         <source>添加刀具</source>
-        <translation>Add a tool</translation>
+        <translation>Add tool</translation>
     </message>
     <message>
         <source>移除最后一把</source>
-        <translation>Remove the last</translation>
+        <translation>Remove last</translation>
     </message>
     <message>
         <source>备用刀 %1 号</source>
@@ -280,7 +280,7 @@
     </message>
     <message>
         <source>深色面板里的下拉框。到第六项时，列表变成可滚动的。</source>
-        <translation>Combo boxes of a dark panel. With the sixth entry the list begins to scroll.</translation>
+        <translation>Combo boxes on a dark panel. From the sixth entry on, the list scrolls.</translation>
     </message>
     <message>
         <source>%1 把刀具，滚动列表</source>
@@ -312,7 +312,7 @@
     </message>
     <message>
         <source>数量</source>
-        <translation>Count</translation>
+        <translation>Qty</translation>
     </message>
     <message>
         <source>正面</source>
@@ -328,11 +328,11 @@
     </message>
     <message>
         <source>零件清单</source>
-        <translation>List of parts</translation>
+        <translation>Parts list</translation>
     </message>
     <message>
         <source>表格里的浅色下拉框，用法与 QComboBox 相同。</source>
-        <translation>Light combo boxes of a table, used as any QComboBox.</translation>
+        <translation>Light combo boxes in a table, used like any QComboBox.</translation>
     </message>
     <message>
         <source>手动转速</source>
@@ -360,7 +360,7 @@
     </message>
     <message>
         <source>离开下拉框时才保存。</source>
-        <translation>Saves when the box is left.</translation>
+        <translation>Saved when the focus leaves the box.</translation>
     </message>
     <message>
         <source>机床</source>
@@ -368,11 +368,11 @@
     </message>
     <message>
         <source>开始加工</source>
-        <translation>Start cutting</translation>
+        <translation>Start machining</translation>
     </message>
     <message>
         <source>回到原点</source>
-        <translation>Go home</translation>
+        <translation>Home axes</translation>
     </message>
     <message>
         <source>断开连接</source>
@@ -388,7 +388,7 @@
     </message>
     <message>
         <source>带图标、快捷键和分隔线的一层菜单。</source>
-        <translation>A menu of one level with icons, shortcuts and a separator.</translation>
+        <translation>A single-level menu with icons, shortcuts and a separator.</translation>
     </message>
     <message>
         <source>%1：%2</source>
@@ -407,15 +407,15 @@
     </message>
     <message>
         <source>主窗口：贴边、最大化、换屏</source>
-        <translation>A main window: snaps, maximises</translation>
+        <translation>Main window: snaps, maximises</translation>
     </message>
     <message>
         <source>编辑刀具</source>
-        <translation>Edit a cutter</translation>
+        <translation>Edit tool</translation>
     </message>
     <message>
         <source>对话框：Esc 不会丢掉输入</source>
-        <translation>A dialog: Esc throws nothing away</translation>
+        <translation>Dialog: Esc discards nothing</translation>
     </message>
     <message>
         <source>机床坐标</source>
@@ -423,7 +423,7 @@
     </message>
     <message>
         <source>浮动面板：自己移动和缩放</source>
-        <translation>A panel: moves and resizes itself</translation>
+        <translation>Panel: moves and resizes itself</translation>
     </message>
     <message>
         <source>打开窗口</source>
@@ -431,19 +431,19 @@
     </message>
     <message>
         <source>标题栏由程序自己画；空白处可拖动，双击最大化，边缘可缩放。</source>
-        <translation>The program draws the title bar: its free part moves the window, a double click maximises, the edges resize.</translation>
+        <translation>The program draws the title bar: drag its free part to move the window, double-click it to maximise, drag the edges to resize.</translation>
     </message>
     <message>
         <source>主窗口。移动、缩放、贴边和最大化都交给系统；边缘深 5 像素。</source>
-        <translation>A main window. Moving, resizing, snapping and maximising are left to the system; the edges are 5 pixels deep.</translation>
+        <translation>Main window. Moving, resizing, snapping and maximising are left to the system; the edges are 5 pixels deep.</translation>
     </message>
     <message>
         <source>对话框。同样交给系统；Esc 不关闭它，最大化时松开 Esc 还原。</source>
-        <translation>A dialog. The same is left to the system; Esc does not close it, but restores it when it is maximised.</translation>
+        <translation>Dialog. Left to the system as well; Esc does not close it, but restores it when it is maximised.</translation>
     </message>
     <message>
         <source>各系统完全一致。自己处理鼠标，边缘深 8 像素；它从不改变自己的状态，只向程序提出请求。</source>
-        <translation>The same on every system. It answers the mouse itself, the edges are 8 pixels deep; it never changes its own state but asks the program to.</translation>
+        <translation>The same on every system. It handles the mouse itself, the edges are 8 pixels deep; it never changes its own state but asks the program to.</translation>
     </message>
     <message>
         <source>选择哪一种</source>
@@ -459,35 +459,35 @@
     </message>
     <message>
         <source>刀路仿真：按住了标题栏。</source>
-        <translation>Toolpath simulation: the title bar was pressed.</translation>
+        <translation>Toolpath simulation: title bar pressed.</translation>
     </message>
     <message>
         <source>刀路仿真已打开。</source>
-        <translation>The toolpath simulation is open.</translation>
+        <translation>Toolpath simulation opened.</translation>
     </message>
     <message>
         <source>已保存刀具：%1</source>
-        <translation>Saved the cutter: %1</translation>
+        <translation>Tool saved: %1</translation>
     </message>
     <message>
         <source>刀具没有改变。</source>
-        <translation>The cutter has not changed.</translation>
+        <translation>The tool has not changed.</translation>
     </message>
     <message>
         <source>正在编辑刀具。</source>
-        <translation>A cutter is being edited.</translation>
+        <translation>Editing a tool.</translation>
     </message>
     <message>
         <source>机床坐标：请求还原。</source>
-        <translation>Machine position: asks to be restored.</translation>
+        <translation>Machine position: restore requested.</translation>
     </message>
     <message>
         <source>机床坐标：双击了标题栏。</source>
-        <translation>Machine position: a double click on the title bar.</translation>
+        <translation>Machine position: title bar double-clicked.</translation>
     </message>
     <message>
         <source>机床坐标已打开。</source>
-        <translation>The machine position is open.</translation>
+        <translation>Machine position opened.</translation>
     </message>
     <message>
         <source>齿轮箱盖</source>
@@ -503,11 +503,11 @@
     </message>
     <message>
         <source>固定大小的弹窗</source>
-        <translation>Pop-ups of a fixed size</translation>
+        <translation>Fixed-size pop-ups</translation>
     </message>
     <message>
         <source>拖动标题区移动；回车确认，Esc 关闭；打开时主窗口不可操作。</source>
-        <translation>Drag the title area to move; Return confirms, Esc closes; the main window waits meanwhile.</translation>
+        <translation>Drag the title area to move; Return confirms, Esc closes; the main window is blocked meanwhile.</translation>
     </message>
     <message>
         <source>已添加毛坯：%1</source>
@@ -601,7 +601,7 @@
     </message>
     <message>
         <source>已新建工程。</source>
-        <translation>A new job.</translation>
+        <translation>New project created.</translation>
     </message>
     <message>
         <source>底座.cam</source>
@@ -617,15 +617,15 @@
     </message>
     <message>
         <source>已打开工程“%1”。</source>
-        <translation>Job “%1” opened.</translation>
+        <translation>Project “%1” opened.</translation>
     </message>
     <message>
         <source>工程已保存。</source>
-        <translation>Job saved.</translation>
+        <translation>Project saved.</translation>
     </message>
     <message>
         <source>工程已另存为副本。</source>
-        <translation>Job saved as a copy.</translation>
+        <translation>Project saved as a copy.</translation>
     </message>
     <message>
         <source>加工程序已导出。</source>
@@ -645,11 +645,11 @@
     </message>
     <message>
         <source>视图已适合窗口。</source>
-        <translation>The view fits the window.</translation>
+        <translation>View fitted to the window.</translation>
     </message>
     <message>
         <source>网格已切换。</source>
-        <translation>Grid switched.</translation>
+        <translation>Grid toggled.</translation>
     </message>
     <message>
         <source>请先连接机床。</source>
@@ -681,11 +681,11 @@
     </message>
     <message>
         <source>方料</source>
-        <translation>Box</translation>
+        <translation>Block</translation>
     </message>
     <message>
         <source>圆料</source>
-        <translation>Cylinder</translation>
+        <translation>Round bar</translation>
     </message>
     <message>
         <source>模型毛坯</source>
@@ -701,7 +701,7 @@
     </message>
     <message>
         <source>居中对齐</source>
-        <translation>Move model to the centre</translation>
+        <translation>Centre model</translation>
     </message>
     <message>
         <source>旋转</source>
@@ -729,15 +729,15 @@
     </message>
     <message>
         <source>毛坯：方料。</source>
-        <translation>Stock: a box.</translation>
+        <translation>Stock: block.</translation>
     </message>
     <message>
         <source>毛坯：圆料。</source>
-        <translation>Stock: a cylinder.</translation>
+        <translation>Stock: round bar.</translation>
     </message>
     <message>
         <source>毛坯：与模型同形。</source>
-        <translation>Stock: shaped like the model.</translation>
+        <translation>Stock: model shape.</translation>
     </message>
     <message>
         <source>木材</source>
@@ -761,7 +761,7 @@
     </message>
     <message>
         <source>模型已移到毛坯中央。</source>
-        <translation>The model stands in the middle of the stock.</translation>
+        <translation>Model centred in the stock.</translation>
     </message>
     <message>
         <source>模型已旋转 90 度。</source>
@@ -845,7 +845,7 @@
     </message>
     <message>
         <source>已添加一把刀具。</source>
-        <translation>A tool was added.</translation>
+        <translation>Tool added.</translation>
     </message>
     <message>
         <source>刀具长度：42.0 毫米。</source>
@@ -857,7 +857,7 @@
     </message>
     <message>
         <source>仿真完成，用时 1 小时 12 分。</source>
-        <translation>Simulated; it takes 1 hour 12 minutes.</translation>
+        <translation>Simulation finished: 1 hour 12 minutes.</translation>
     </message>
     <message>
         <source>没有碰撞。</source>
@@ -897,11 +897,11 @@
     </message>
     <message>
         <source>写入备注</source>
-        <translation>Add a note</translation>
+        <translation>Add note</translation>
     </message>
     <message>
         <source>日志位置</source>
-        <translation>Where is it</translation>
+        <translation>Log location</translation>
     </message>
     <message>
         <source>关于</source>
@@ -913,7 +913,7 @@
     </message>
     <message>
         <source>备注：夹具已换。</source>
-        <translation>Note: another fixture.</translation>
+        <translation>Note: fixture changed.</translation>
     </message>
     <message>
         <source>日志文件：%1</source>
@@ -941,7 +941,7 @@
     </message>
     <message>
         <source>没有选中的工具。</source>
-        <translation>No tool is checked.</translation>
+        <translation>No tool is selected.</translation>
     </message>
 </context>
 <context>
@@ -978,31 +978,31 @@
     <name>JogPalette</name>
     <message>
         <source>Y 轴正向点动</source>
-        <translation>Jog the Y axis forward</translation>
+        <translation>Jog Y+</translation>
     </message>
     <message>
         <source>X 轴负向点动</source>
-        <translation>Jog the X axis back</translation>
+        <translation>Jog X−</translation>
     </message>
     <message>
         <source>X 轴正向点动</source>
-        <translation>Jog the X axis forward</translation>
+        <translation>Jog X+</translation>
     </message>
     <message>
         <source>Y 轴负向点动</source>
-        <translation>Jog the Y axis back</translation>
+        <translation>Jog Y−</translation>
     </message>
     <message>
         <source>主轴抬起</source>
-        <translation>Raise the spindle</translation>
+        <translation>Raise spindle</translation>
     </message>
     <message>
         <source>主轴落下</source>
-        <translation>Lower the spindle</translation>
+        <translation>Lower spindle</translation>
     </message>
     <message>
         <source>回到工件零点</source>
-        <translation>Go to the zero point of the part</translation>
+        <translation>Go to work zero</translation>
     </message>
 </context>
 <context>
@@ -1034,11 +1034,11 @@
     <name>MachinePage</name>
     <message>
         <source>列表中只显示 USB 机床</source>
-        <translation>List only machines on USB</translation>
+        <translation>List only USB machines</translation>
     </message>
     <message>
         <source>还没有连接机床。</source>
-        <translation>No machine is connected yet.</translation>
+        <translation>No machine connected yet.</translation>
     </message>
     <message>
         <source>网络连接</source>
@@ -1046,7 +1046,7 @@
     </message>
     <message>
         <source>以太网或 Wi-Fi：从列表选择，或指定 IP</source>
-        <translation>Ethernet or Wi-Fi: pick one, or type its IP</translation>
+        <translation>Ethernet or Wi-Fi: pick one or enter its IP</translation>
     </message>
     <message>
         <source>标定连接</source>
@@ -1062,7 +1062,7 @@
     </message>
     <message>
         <source>面板打开期间，在本机端口 %1 上接收机床的通告。</source>
-        <translation>While the panel is open, announcements of machines are received on this computer&apos;s port %1.</translation>
+        <translation>While the panel is open, this computer listens for machine announcements on port %1.</translation>
     </message>
     <message>
         <source>断开机床</source>
@@ -1078,7 +1078,7 @@
     </message>
     <message>
         <source>状态栏也会显示当前机床。</source>
-        <translation>The status line shows it too.</translation>
+        <translation>The status line shows it as well.</translation>
     </message>
     <message>
         <source>以太网</source>
@@ -1086,19 +1086,19 @@
     </message>
     <message>
         <source>优先级最高；机床固定在 192.168.7.2，面板自己完成连接。</source>
-        <translation>First choice; the machine stands at 192.168.7.2, and the panel connects it by itself.</translation>
+        <translation>Highest priority; the machine is always at 192.168.7.2, and the panel connects by itself.</translation>
     </message>
     <message>
         <source>其次；同一台机床同时出现在 Wi-Fi 上时，保留以太网。</source>
-        <translation>Next; it is kept when the same machine is on Wi-Fi as well.</translation>
+        <translation>Second; preferred when the same machine is on Wi-Fi as well.</translation>
     </message>
     <message>
         <source>最后；通告里没有写接口的机床也按 Wi-Fi 处理。</source>
-        <translation>Last; a machine that names no interface counts as Wi-Fi too.</translation>
+        <translation>Last; a machine that announces no interface counts as Wi-Fi too.</translation>
     </message>
     <message>
         <source>三条路</source>
-        <translation>Three roads</translation>
+        <translation>Three ways to connect</translation>
     </message>
     <message>
         <source>一台机床一行，按接口的优先级保留一个地址。</source>
@@ -1125,19 +1125,19 @@
     </message>
     <message>
         <source>机床没有给出序列号。</source>
-        <translation>The machine gave no serial number.</translation>
+        <translation>The machine reported no serial number.</translation>
     </message>
     <message>
         <source>机床的应答无法识别。</source>
-        <translation>The machine&apos;s answer cannot be understood.</translation>
+        <translation>The machine&apos;s reply was not understood.</translation>
     </message>
     <message>
         <source>机床没有答完就断开了连接。</source>
-        <translation>The machine closed the connection before its answer was complete.</translation>
+        <translation>The machine closed the connection before its reply was complete.</translation>
     </message>
     <message>
         <source>该地址上没有机床在等待连接。</source>
-        <translation>No machine waits for a connection at this address.</translation>
+        <translation>No machine is waiting for a connection at this address.</translation>
     </message>
     <message>
         <source>网络错误：%1</source>
@@ -1148,14 +1148,14 @@
     <name>MachiningView</name>
     <message>
         <source>拖动旋转 · 滚轮缩放 · 双击编辑</source>
-        <translation>Drag to turn · wheel to zoom · double-click to edit</translation>
+        <translation>Drag to rotate · scroll to zoom · double-click to edit</translation>
     </message>
 </context>
 <context>
     <name>MenusPage</name>
     <message>
         <source>打开一个菜单并选择，这里和日志里会显示所选的命令。</source>
-        <translation>Open a menu and choose; the command is told here and in the log.</translation>
+        <translation>Open a menu and choose a command; it is shown here and in the log.</translation>
     </message>
     <message>
         <source>支架.cnc</source>
@@ -1175,7 +1175,7 @@
     </message>
     <message>
         <source>刀路</source>
-        <translation>Tool path</translation>
+        <translation>Toolpath</translation>
     </message>
     <message>
         <source>机床</source>
@@ -1191,15 +1191,15 @@
     </message>
     <message>
         <source>加工程序</source>
-        <translation>A machining program</translation>
+        <translation>Machining program</translation>
     </message>
     <message>
         <source>按下打开，再按关闭；打开时移到旁边的按钮即可切换；点击别处关闭。快捷键同样有效。</source>
-        <translation>Press to open, press again to close; with one open, the pointer on another button opens that one; a click elsewhere closes. The shortcuts work too.</translation>
+        <translation>Press to open, press again to close; while one is open, pointing at another button switches to it; a click elsewhere closes. The shortcuts work too.</translation>
     </message>
     <message>
         <source>刚才选择：%1</source>
-        <translation>Chosen last: %1</translation>
+        <translation>Last chosen: %1</translation>
     </message>
     <message>
         <source>未命名.cnc</source>
@@ -1207,23 +1207,23 @@
     </message>
     <message>
         <source>刚才选择：%1（开）</source>
-        <translation>Chosen last: %1 (on)</translation>
+        <translation>Last chosen: %1 (on)</translation>
     </message>
     <message>
         <source>刚才选择：%1（关）</source>
-        <translation>Chosen last: %1 (off)</translation>
+        <translation>Last chosen: %1 (off)</translation>
     </message>
     <message>
         <source>齿轮箱盖.cnc</source>
-        <translation>Gearbox lid.cnc</translation>
+        <translation>Gearbox cover.cnc</translation>
     </message>
     <message>
         <source>铭牌.cnc</source>
-        <translation>Name plate.cnc</translation>
+        <translation>Nameplate.cnc</translation>
     </message>
     <message>
         <source>清除列表</source>
-        <translation>Clear the list</translation>
+        <translation>Clear list</translation>
     </message>
     <message>
         <source>新建工程</source>
@@ -1331,7 +1331,7 @@
     </message>
     <message>
         <source>计算刀路</source>
-        <translation>Calculate tool path</translation>
+        <translation>Calculate toolpath</translation>
     </message>
     <message>
         <source>仿真</source>
@@ -1350,7 +1350,7 @@
     <name>MessageBoxesPage</name>
     <message>
         <source>点击一个例子，这里会显示返回值。</source>
-        <translation>Click an example; what it returns is told here.</translation>
+        <translation>Click an example; its return value is shown here.</translation>
     </message>
     <message>
         <source>返回值：%1（%2）</source>
@@ -1358,7 +1358,7 @@
     </message>
     <message>
         <source>告知</source>
-        <translation>Tell</translation>
+        <translation>Inform</translation>
     </message>
     <message>
         <source>提示</source>
@@ -1378,7 +1378,7 @@
     </message>
     <message>
         <source>请确认毛坯已夹紧，主轴周围没有杂物。</source>
-        <translation>Make sure that the stock is clamped and the spindle is clear.</translation>
+        <translation>Make sure the stock is clamped and the area around the spindle is clear.</translation>
     </message>
     <message>
         <source>警告</source>
@@ -1402,7 +1402,7 @@
     </message>
     <message>
         <source>用时 1 小时 24 分，请取下工件。</source>
-        <translation>It took 1 hour 24 minutes. Take the workpiece out.</translation>
+        <translation>Finished in 1 hour 24 minutes. Please remove the workpiece.</translation>
     </message>
     <message>
         <source>等待</source>
@@ -1426,11 +1426,11 @@
     </message>
     <message>
         <source>五种图标各用在它自然的场合。</source>
-        <translation>Each of the five icons where it belongs.</translation>
+        <translation>Each of the five icons in its natural place.</translation>
     </message>
     <message>
         <source>自定义按钮文字</source>
-        <translation>Texts of its own</translation>
+        <translation>Custom button texts</translation>
     </message>
     <message>
         <source>刀具磨损</source>
@@ -1438,7 +1438,7 @@
     </message>
     <message>
         <source>2 号刀具已使用 40 小时。</source>
-        <translation>Tool 2 has run for 40 hours.</translation>
+        <translation>Tool 2 has been used for 40 hours.</translation>
     </message>
     <message>
         <source>继续使用</source>
@@ -1462,7 +1462,7 @@
     </message>
     <message>
         <source>两秒后消失</source>
-        <translation>Goes after two seconds</translation>
+        <translation>Closes after two seconds</translation>
     </message>
     <message>
         <source>刀路已复制到剪贴板。</source>
@@ -1486,19 +1486,19 @@
     </message>
     <message>
         <source>回原点</source>
-        <translation>Go home</translation>
+        <translation>Home axes</translation>
     </message>
     <message>
         <source>主轴将移动到机床原点。</source>
-        <translation>The spindle will move to the machine&apos;s origin.</translation>
+        <translation>The spindle will move to machine zero.</translation>
     </message>
     <message>
         <source>，已勾选</source>
-        <translation>, ticked</translation>
+        <translation>, checked</translation>
     </message>
     <message>
         <source>，未勾选</source>
-        <translation>, not ticked</translation>
+        <translation>, unchecked</translation>
     </message>
     <message>
         <source>主窗口居中</source>
@@ -1510,7 +1510,7 @@
     </message>
     <message>
         <source>打开所在文件夹</source>
-        <translation>Open the folder</translation>
+        <translation>Open folder</translation>
     </message>
     <message>
         <source>刀路文件已导出。</source>
@@ -1522,11 +1522,11 @@
     </message>
     <message>
         <source>磁盘剩余空间不足 2 GB，扫描可能中断。</source>
-        <translation>Less than 2 GB of disk space left; the scan may break off.</translation>
+        <translation>Less than 2 GB of disk space left; the scan may be interrupted.</translation>
     </message>
     <message>
         <source>确认刀具</source>
-        <translation>Confirm the tools</translation>
+        <translation>Confirm tools</translation>
     </message>
     <message>
         <source>请确认刀具</source>
@@ -1534,11 +1534,11 @@
     </message>
     <message>
         <source>框上再问</source>
-        <translation>Ask again on top</translation>
+        <translation>Box over a box</translation>
     </message>
     <message>
         <source>后开的框先结束</source>
-        <translation>The box opened last ends first</translation>
+        <translation>The one opened last closes first</translation>
     </message>
     <message>
         <source>入口</source>
@@ -1546,15 +1546,15 @@
     </message>
     <message>
         <source>每个静态函数一个例子。</source>
-        <translation>An example for each static function.</translation>
+        <translation>One example for each static function.</translation>
     </message>
     <message>
         <source>正在计算</source>
-        <translation>Computing</translation>
+        <translation>Calculating</translation>
     </message>
     <message>
         <source>正在生成加工预览</source>
-        <translation>Making the machining preview</translation>
+        <translation>Generating the machining preview</translation>
     </message>
     <message>
         <source>安装包</source>
@@ -1562,7 +1562,7 @@
     </message>
     <message>
         <source>安装包占用 1.2 GB。</source>
-        <translation>The package takes 1.2 GB.</translation>
+        <translation>The package takes up 1.2 GB.</translation>
     </message>
     <message>
         <source>再次确认</source>
@@ -1578,23 +1578,23 @@
     </message>
     <message>
         <source>2. 打开防护罩，用吸尘器清掉刀具、夹头和刀库上的切屑，不要用压缩空气吹。</source>
-        <translation>2. Open the guard and vacuum the chips off tool, collet and magazine. Do not blow them away.</translation>
+        <translation>2. Open the guard and vacuum the chips off tool, collet and magazine. Do not use compressed air.</translation>
     </message>
     <message>
         <source>3. 一手托住刀具，一手用扳手松开夹头，把旧刀具放回刀库里它自己的位置。</source>
-        <translation>3. Hold the tool with one hand, loosen the collet with the other, and put the tool back in its own place of the magazine.</translation>
+        <translation>3. Hold the tool with one hand, loosen the collet with the other, and put the old tool back in its own pocket of the magazine.</translation>
     </message>
     <message>
         <source>4. 擦净新刀具的刀柄，插到夹头底部，再按规定的力矩拧紧；拧得过紧会损坏夹头。</source>
-        <translation>4. Wipe the new tool&apos;s shank, insert it fully, and tighten to the given torque; more than that damages the collet.</translation>
+        <translation>4. Wipe the new tool&apos;s shank, insert it fully, and tighten to the specified torque; overtightening damages the collet.</translation>
     </message>
     <message>
         <source>5. 核对刀库编号与刀具列表一致，特别是直径相近的平底刀和球头刀。</source>
-        <translation>5. Compare the magazine&apos;s numbers with the tool list, above all for flat and ball-nose mills of similar diameter.</translation>
+        <translation>5. Check that the pocket numbers match the tool list, above all for flat and ball end mills of similar diameter.</translation>
     </message>
     <message>
         <source>6. 关上防护罩，回原点，执行一次对刀；对刀数据超出范围时请重新装夹。</source>
-        <translation>6. Close the guard, go home and measure the tool; clamp it anew when the result is out of range.</translation>
+        <translation>6. Close the guard, home the axes and measure the tool; clamp it anew if the result is out of range.</translation>
     </message>
     <message>
         <source>7. 第一次切削时把进给倍率降到一半，确认声音和切屑正常后再恢复。</source>
@@ -1636,7 +1636,7 @@
     </message>
     <message>
         <source>面板里的深色下拉框，表格里的浅色下拉框，以及一层菜单。</source>
-        <translation>Dark combo boxes of a panel, light ones of a table, and a menu of one level.</translation>
+        <translation>Dark combo boxes for panels, light ones for tables, and a single-level menu.</translation>
     </message>
     <message>
         <source>文本</source>
@@ -1664,11 +1664,11 @@
     </message>
     <message>
         <source>标记与动画</source>
-        <translation>Mark and flip-book</translation>
+        <translation>Mark and animation</translation>
     </message>
     <message>
         <source>内部版本的斜纹标记，以及逐帧播放的图片。</source>
-        <translation>The slanted mark of an internal build, and pictures that flip.</translation>
+        <translation>The slanted watermark of an internal build, and pictures played frame by frame.</translation>
     </message>
     <message>
         <source>主题按钮</source>
@@ -1676,7 +1676,7 @@
     </message>
     <message>
         <source>八种类型的按钮，三种背景，可选中、可带气泡。</source>
-        <translation>Buttons of eight types on three backgrounds, that can be chosen and carry a bubble.</translation>
+        <translation>Buttons of eight types on three backgrounds, checkable or with a bubble.</translation>
     </message>
     <message>
         <source>参数面板</source>
@@ -1684,7 +1684,7 @@
     </message>
     <message>
         <source>材料、尺寸、角度、开关与工序：一次加工的准备。</source>
-        <translation>Material, sizes, an angle, switches and steps: what prepares a job.</translation>
+        <translation>Material, sizes, an angle, switches and operations: setting up a job.</translation>
     </message>
     <message>
         <source>菜单栏</source>
@@ -1692,7 +1692,7 @@
     </message>
     <message>
         <source>按钮与面板组成的菜单栏：图标、快捷键、子菜单、勾选项。</source>
-        <translation>A menu bar of buttons and panels: icons, shortcuts, sub-menus, rows that can be ticked.</translation>
+        <translation>A menu bar of buttons and panels: icons, shortcuts, submenus, checkable rows.</translation>
     </message>
     <message>
         <source>消息框</source>
@@ -1716,7 +1716,7 @@
     </message>
     <message>
         <source>长时间任务的进度：由程序给出，或自行缓慢前进。</source>
-        <translation>The progress of a long job, given by the program or creeping on its own.</translation>
+        <translation>The progress of a long job, reported by the program or advancing slowly on its own.</translation>
     </message>
     <message>
         <source>无边框窗口</source>
@@ -1728,11 +1728,11 @@
     </message>
     <message>
         <source>工具栏与标签页</source>
-        <translation>Tool bars and tabs</translation>
+        <translation>Toolbars and tabs</translation>
     </message>
     <message>
         <source>成组的工具、细工具栏和深色标签页；窗口上方的功能区也由它们组成。</source>
-        <translation>Blocks of tools, slim bars and dark tabs; the ribbon above is made of them too.</translation>
+        <translation>Groups of tools, slim toolbars and dark tabs; the ribbon above is made of them too.</translation>
     </message>
     <message>
         <source>刀具与程序</source>
@@ -1740,14 +1740,14 @@
     </message>
     <message>
         <source>刀库里的刀具：能用的可以选择，直径和长度就地修改；以及等待加工的程序。</source>
-        <translation>The tools of the magazine: choose those that fit, edit diameter and length in place; and the programs that wait.</translation>
+        <translation>The tools of the magazine: choose those that fit, edit diameter and length in place; and the programs waiting to be machined.</translation>
     </message>
 </context>
 <context>
     <name>ParametersPage</name>
     <message>
         <source>选择材料、输入尺寸、切换选项，这里会显示结果。</source>
-        <translation>Choose a material, type a size or switch an option; the result is told here.</translation>
+        <translation>Choose a material, enter a size or switch an option; the result is shown here.</translation>
     </message>
     <message>
         <source>亚克力</source>
@@ -1803,11 +1803,11 @@
     </message>
     <message>
         <source>方形毛坯</source>
-        <translation>Box stock</translation>
+        <translation>Block stock</translation>
     </message>
     <message>
         <source>关闭后毛坯尺寸由模型的外形决定，不能手动输入。</source>
-        <translation>When off, the outline of the model gives the size of the stock, and it cannot be typed.</translation>
+        <translation>When off, the outline of the model sets the size of the stock, and it cannot be entered.</translation>
     </message>
     <message>
         <source>长度（X）</source>
@@ -1827,11 +1827,11 @@
     </message>
     <message>
         <source>毛坯尺寸由您输入。</source>
-        <translation>You type the size of the stock.</translation>
+        <translation>You enter the size of the stock.</translation>
     </message>
     <message>
         <source>毛坯尺寸由模型决定。</source>
-        <translation>The model gives the size of the stock.</translation>
+        <translation>The model sets the size of the stock.</translation>
     </message>
     <message>
         <source>%1：%2 %3</source>
@@ -1851,7 +1851,7 @@
     </message>
     <message>
         <source>主轴下降到对刀块上，测出刀尖的高度。请先放好对刀块。</source>
-        <translation>The spindle comes down on the tool setter and measures where the tip of the tool is. Put the tool setter in its place first.</translation>
+        <translation>The spindle comes down on the tool setter and measures the height of the tool tip. Put the tool setter in place first.</translation>
     </message>
     <message>
         <source>吸尘</source>
@@ -1863,7 +1863,7 @@
     </message>
     <message>
         <source>最后雕刻纹理</source>
-        <translation>Texture at the end</translation>
+        <translation>Engrave texture last</translation>
     </message>
     <message>
         <source>%1：开</source>
@@ -1875,7 +1875,7 @@
     </message>
     <message>
         <source>加工工序</source>
-        <translation>Machining steps</translation>
+        <translation>Operations</translation>
     </message>
     <message>
         <source>列表还有内容时，按钮上方出现一条细线。</source>
@@ -1883,7 +1883,7 @@
     </message>
     <message>
         <source>移除</source>
-        <translation>Delete</translation>
+        <translation>Remove</translation>
     </message>
     <message>
         <source>生成刀路</source>
@@ -1891,11 +1891,11 @@
     </message>
     <message>
         <source>还有 %1 道工序</source>
-        <translation>%1 steps are left</translation>
+        <translation>Operations left: %1</translation>
     </message>
     <message>
         <source>已为 %1 道工序生成刀路</source>
-        <translation>Toolpaths generated for %1 steps</translation>
+        <translation>Toolpaths generated, operations: %1</translation>
     </message>
     <message>
         <source>粗加工  平底铣刀 3.175</source>
@@ -1903,11 +1903,11 @@
     </message>
     <message>
         <source>半精加工  球头铣刀 2.0</source>
-        <translation>Semi-finishing, ball nose 2.0</translation>
+        <translation>Semi-finishing, ball end mill 2.0</translation>
     </message>
     <message>
         <source>精加工  球头铣刀 1.0</source>
-        <translation>Finishing, ball nose 1.0</translation>
+        <translation>Finishing, ball end mill 1.0</translation>
     </message>
     <message>
         <source>钻孔  钻头 2.5</source>
@@ -1929,7 +1929,7 @@
     <name>ProgressPage</name>
     <message>
         <source>点击一个例子开始。</source>
-        <translation>Click an example to start.</translation>
+        <translation>Click an example to start it.</translation>
     </message>
     <message>
         <source>任务完成</source>
@@ -1937,11 +1937,11 @@
     </message>
     <message>
         <source>自动前进</source>
-        <translation>Creeps on its own</translation>
+        <translation>Advances on its own</translation>
     </message>
     <message>
         <source>CreateAutoWidget：任务不知道进度</source>
-        <translation>CreateAutoWidget: a job that knows no progress</translation>
+        <translation>CreateAutoWidget: for unknown progress</translation>
     </message>
     <message>
         <source>程序给出进度</source>
@@ -1949,7 +1949,7 @@
     </message>
     <message>
         <source>setValue：每一步报告一次</source>
-        <translation>setValue: told at each step</translation>
+        <translation>setValue: called at each step</translation>
     </message>
     <message>
         <source>分阶段提示</source>
@@ -1957,7 +1957,7 @@
     </message>
     <message>
         <source>setStageText：过半后换一句话</source>
-        <translation>setStageText: another text past the middle</translation>
+        <translation>setStageText: a new text halfway</translation>
     </message>
     <message>
         <source>可以取消</source>
@@ -1965,7 +1965,7 @@
     </message>
     <message>
         <source>BindCloseButton：关闭前先询问</source>
-        <translation>BindCloseButton: asks before it closes</translation>
+        <translation>BindCloseButton: asks before closing</translation>
     </message>
     <message>
         <source>长提示</source>
@@ -1981,7 +1981,7 @@
     </message>
     <message>
         <source>对话框打开时其余窗口不可操作，任务结束后自动关闭。</source>
-        <translation>A dialog blocks the other windows and goes when its job is done.</translation>
+        <translation>A dialog blocks the other windows and closes when its job is done.</translation>
     </message>
     <message>
         <source>正在运行：%1</source>
@@ -2013,7 +2013,7 @@
     </message>
     <message>
         <source>正在重建表面</source>
-        <translation>Rebuilding the surface</translation>
+        <translation>Reconstructing the surface</translation>
     </message>
     <message>
         <source>正在上传加工文件</source>
@@ -2033,7 +2033,7 @@
     </message>
     <message>
         <source>正在把新的固件写入机床。写入期间请不要断开电源，也不要拔下数据线；机床会自行重新启动一次，指示灯变为绿色之后才可以继续操作</source>
-        <translation>Writing the new firmware to the machine. Do not switch it off or unplug the cable meanwhile; it restarts once by itself, and can be used again when its lamp is green</translation>
+        <translation>Writing the new firmware to the machine. Do not switch it off or unplug the cable meanwhile; it restarts once by itself, and can be used again when its light turns green</translation>
     </message>
     <message>
         <source>升级固件</source>
@@ -2057,7 +2057,7 @@
     </message>
     <message>
         <source>进度条里的百分比在填充的边缘换色。</source>
-        <translation>The percentage changes its colour at the edge of the filled part.</translation>
+        <translation>The percentage changes colour at the edge of the filled part.</translation>
     </message>
 </context>
 <context>
@@ -2155,14 +2155,14 @@
     </message>
     <message>
         <source>右键菜单：剪切、复制、粘贴、全选。</source>
-        <translation>Right click: cut, copy, paste, select all.</translation>
+        <translation>Right-click: cut, copy, paste, select all.</translation>
     </message>
     <message>
         <source>第一面加工前请确认压板没有挡住刀路。
 第二面以左下角的销孔定位。
 精加工余量 0.2 mm。</source>
-        <translation>Before the first side, make sure that no clamp is in the way of the tool.
-The second side is located by the pin at the lower left.
+        <translation>Before the first side, make sure that no clamp is in the way of the toolpath.
+Locate the second side by the pin at the lower left.
 Leave 0.2 mm for finishing.</translation>
     </message>
     <message>
@@ -2171,7 +2171,7 @@ Leave 0.2 mm for finishing.</translation>
     </message>
     <message>
         <source>只读；选中文字后右键可以复制。</source>
-        <translation>Read only; selected text can be copied by a right click.</translation>
+        <translation>Read only; right-click selected text to copy it.</translation>
     </message>
     <message>
         <source>装夹</source>
@@ -2179,7 +2179,7 @@ Leave 0.2 mm for finishing.</translation>
     </message>
     <message>
         <source>把毛坯放在工作台中央，四角用压板压紧。压板要避开刀路。</source>
-        <translation>Put the stock in the middle of the table and clamp its four corners, out of the way of the tool.</translation>
+        <translation>Put the stock in the middle of the table and clamp its four corners. Keep the clamps clear of the toolpath.</translation>
     </message>
     <message>
         <source>对刀</source>
@@ -2187,15 +2187,15 @@ Leave 0.2 mm for finishing.</translation>
     </message>
     <message>
         <source>让刀尖轻触毛坯表面，再按下“设为零点”。换刀之后要重新对刀。</source>
-        <translation>Let the tip of the tool touch the stock and press &quot;Set zero&quot;. Do so again after each change of tool.</translation>
+        <translation>Let the tip of the tool touch the stock and press &quot;Set zero&quot;. Repeat this after each tool change.</translation>
     </message>
     <message>
         <source>加工</source>
-        <translation>Cutting</translation>
+        <translation>Machining</translation>
     </message>
     <message>
         <source>关好防护门，点击“开始加工”。运行中不要打开防护门。</source>
-        <translation>Close the door and click &quot;Start cutting&quot;. Keep the door closed while it runs.</translation>
+        <translation>Close the door and click &quot;Start machining&quot;. Keep the door closed during the run.</translation>
     </message>
     <message>
         <source>清理</source>
@@ -2203,7 +2203,7 @@ Leave 0.2 mm for finishing.</translation>
     </message>
     <message>
         <source>加工结束后用吸尘器清理切屑，最后取下工件。</source>
-        <translation>When it is done, remove the chips with a vacuum cleaner, then take out the part.</translation>
+        <translation>When the job is done, vacuum up the chips, then remove the part.</translation>
     </message>
     <message>
         <source>剪贴板是空的。</source>
@@ -2218,17 +2218,17 @@ Leave 0.2 mm for finishing.</translation>
     <name>TipsPage</name>
     <message>
         <source>把指针停在按钮上，提示会淡入；离开或 3.5 秒后淡出。</source>
-        <translation>Rest the pointer on a button: its tip fades in, and out when you leave or after 3.5 seconds.</translation>
+        <translation>Rest the pointer on a button: its tip fades in, and fades out when you leave or after 3.5 seconds.</translation>
     </message>
     <message>
         <source>方料毛坯</source>
-        <translation>Box stock</translation>
+        <translation>Block stock</translation>
     </message>
     <message>
         <source>圆料毛坯
 适合四轴加工</source>
-        <translation>Round stock
-for the fourth axis</translation>
+        <translation>Round bar stock
+for 4-axis machining</translation>
     </message>
     <message>
         <source>&lt;b&gt;导入模型&lt;/b&gt;&lt;br&gt;支持 STL、STEP 与 OBJ</source>
@@ -2236,11 +2236,11 @@ for the fourth axis</translation>
     </message>
     <message>
         <source>自适应：毛坯随模型的大小改变，四周各留 2 mm 余量</source>
-        <translation>Adaptive: the stock follows the size of the model, with 2 mm to spare on each side</translation>
+        <translation>Adaptive: the stock follows the size of the model, with an allowance of 2 mm on each side</translation>
     </message>
     <message>
         <source>开始仿真</source>
-        <translation>Start the simulation</translation>
+        <translation>Start simulation</translation>
     </message>
     <message>
         <source>点击：%1</source>
@@ -2248,11 +2248,11 @@ for the fourth axis</translation>
     </message>
     <message>
         <source>工具栏</source>
-        <translation>Tool bar</translation>
+        <translation>Toolbar</translation>
     </message>
     <message>
         <source>一行、两行、富文本和较长的提示。</source>
-        <translation>Tips of one line, two lines, rich text and more text.</translation>
+        <translation>Tips of one line, two lines, rich text and longer text.</translation>
     </message>
     <message>
         <source>左上</source>
@@ -2288,7 +2288,7 @@ for the fourth axis</translation>
     </message>
     <message>
         <source>收起</source>
-        <translation>Put away</translation>
+        <translation>Hide</translation>
     </message>
     <message>
         <source>点动面板</source>
@@ -2296,7 +2296,7 @@ for the fourth axis</translation>
     </message>
     <message>
         <source>停靠在屏幕的边角；提示不会伸出屏幕。</source>
-        <translation>It docks to the edges of the screen; its tips never leave the screen.</translation>
+        <translation>Docks to the edges and corners of the screen; its tips never leave the screen.</translation>
     </message>
     <message>
         <source>%1的说明</source>
@@ -2312,7 +2312,7 @@ for the fourth axis</translation>
     </message>
     <message>
         <source>铝合金建议 8000 至 12000 转/分。</source>
-        <translation>8000 to 12000 rpm for aluminium.</translation>
+        <translation>Recommended for aluminium: 8000 to 12000 rpm.</translation>
     </message>
     <message>
         <source>进给速度</source>
@@ -2324,7 +2324,7 @@ for the fourth axis</translation>
     </message>
     <message>
         <source>进给过快会折断刀具，过慢会烧伤材料。第一次加工请先用建议值的一半，声音和切屑正常后再逐步提高。</source>
-        <translation>Too fast breaks the tool, too slow burns the material. Start the first job at half the advised rate, and raise it once sound and chips are right.</translation>
+        <translation>Too fast breaks the tool, too slow burns the material. Run the first job at half the recommended rate, and raise it step by step once sound and chips are right.</translation>
     </message>
     <message>
         <source>每层切深</source>
@@ -2336,7 +2336,7 @@ for the fourth axis</translation>
     </message>
     <message>
         <source>不超过刀具直径的一半。</source>
-        <translation>At most half the diameter of the tool.</translation>
+        <translation>At most half the tool diameter.</translation>
     </message>
     <message>
         <source>刀具寿命</source>
@@ -2348,11 +2348,11 @@ for the fourth axis</translation>
     </message>
     <message>
         <source>寿命怎样计算</source>
-        <translation>How the life is counted</translation>
+        <translation>How tool life is counted</translation>
     </message>
     <message>
         <source>按主轴带负载的时间累计，空走不计。铝合金按 1 倍，不锈钢按 2.5 倍计入。</source>
-        <translation>The time that the spindle works under load; idle moves do not count. Aluminium counts once, stainless steel two and a half times.</translation>
+        <translation>The time that the spindle works under load; rapid moves do not count. Aluminium counts once, stainless steel two and a half times.</translation>
     </message>
     <message>
         <source>加工参数</source>
@@ -2360,7 +2360,7 @@ for the fourth axis</translation>
     </message>
     <message>
         <source>指针停留或点击感叹号查看说明；刀具寿命只在点击后显示。</source>
-        <translation>Rest on a mark or click it to read what it says; that of the tool life shows on a click alone.</translation>
+        <translation>Rest on a mark or click it to read its note; that of tool life shows on a click only.</translation>
     </message>
     <message>
         <source>支架_铝合金_粗加工_6mm平底刀_第3次修订.nc</source>
@@ -2380,11 +2380,11 @@ for the fourth axis</translation>
     </message>
     <message>
         <source>最近的刀路</source>
-        <translation>Recent tool paths</translation>
+        <translation>Recent toolpaths</translation>
     </message>
     <message>
         <source>长文件名逐字换行，放不下的省略；全名在提示里。</source>
-        <translation>Long names wrap by character and are elided; the note has the whole name.</translation>
+        <translation>Long names wrap anywhere and are elided; the note has the whole name.</translation>
     </message>
     <message>
         <source>复制坐标</source>
@@ -2400,7 +2400,7 @@ for the fourth axis</translation>
     </message>
     <message>
         <source>程序也可以自己显示磨砂提示，确认刚才的操作。</source>
-        <translation>A program can show a frosted tip by itself, to confirm what was just done.</translation>
+        <translation>A program can also show a frosted tip by itself, to confirm what was just done.</translation>
     </message>
 </context>
 <context>
@@ -2411,7 +2411,7 @@ for the fourth axis</translation>
     </message>
     <message>
         <source>视图：旋转 %1°，俯仰 %2°</source>
-        <translation>View: turned %1°, tilted %2°</translation>
+        <translation>View: rotated %1°, tilted %2°</translation>
     </message>
     <message>
         <source>编辑模型</source>
@@ -2419,15 +2419,15 @@ for the fourth axis</translation>
     </message>
     <message>
         <source>退出编辑</source>
-        <translation>Leave editing</translation>
+        <translation>Stop editing</translation>
     </message>
     <message>
         <source>空号</source>
-        <translation>Free</translation>
+        <translation>Unused</translation>
     </message>
     <message>
         <source>生成G代码</source>
-        <translation>Make G-code</translation>
+        <translation>Generate G-code</translation>
     </message>
     <message>
         <source>编辑纹理</source>
@@ -2443,39 +2443,39 @@ for the fourth axis</translation>
     </message>
     <message>
         <source>隐藏外壳</source>
-        <translation>Hide shell</translation>
+        <translation>Hide enclosure</translation>
     </message>
     <message>
         <source>显示外壳</source>
-        <translation>Show shell</translation>
+        <translation>Show enclosure</translation>
     </message>
     <message>
         <source>隐藏坐标</source>
-        <translation>Hide axes</translation>
+        <translation>Hide coordinates</translation>
     </message>
     <message>
         <source>显示坐标</source>
-        <translation>Show axes</translation>
+        <translation>Show coordinates</translation>
     </message>
     <message>
         <source>关闭检测</source>
-        <translation>Check off</translation>
+        <translation>Collision check off</translation>
     </message>
     <message>
         <source>打开检测</source>
-        <translation>Check on</translation>
+        <translation>Collision check on</translation>
     </message>
     <message>
         <source>退出标定</source>
-        <translation>Calibration</translation>
+        <translation>End calibration</translation>
     </message>
     <message>
         <source>面不可加工</source>
-        <translation>Bad face</translation>
+        <translation>Face not usable</translation>
     </message>
     <message>
         <source>圆柱面不可加工</source>
-        <translation>Bad cylinder</translation>
+        <translation>Cylinder not usable</translation>
     </message>
     <message>
         <source>二十种提示</source>
@@ -2487,7 +2487,7 @@ for the fourth axis</translation>
     </message>
     <message>
         <source>2 号刀具已使用 40 小时，超过建议寿命；继续使用可能影响表面质量，请在下一次换刀时更换。</source>
-        <translation>Tool 2 has been used for 40 hours, longer than is advised; the surface may suffer. Please replace it at the next tool change.</translation>
+        <translation>Tool 2 has been used for 40 hours, beyond its recommended life; surface quality may suffer. Please replace it at the next tool change.</translation>
     </message>
     <message>
         <source>类型 %1 没有内容。</source>
@@ -2495,7 +2495,7 @@ for the fourth axis</translation>
     </message>
     <message>
         <source>显示类型 %1。</source>
-        <translation>Type %1 shows.</translation>
+        <translation>Showing type %1.</translation>
     </message>
     <message>
         <source>加工区</source>
@@ -2503,14 +2503,14 @@ for the fourth axis</translation>
     </message>
     <message>
         <source>双击模型或空白处也会出现提示。</source>
-        <translation>A double click on the model, or beside it, brings a toast too.</translation>
+        <translation>Double-clicking the model, or beside it, brings up a toast too.</translation>
     </message>
 </context>
 <context>
     <name>ToolBarsPage</name>
     <message>
         <source>换一个标签页，或按下一个工具，这里会显示结果。</source>
-        <translation>Change the tab or use a tool; the outcome is told here.</translation>
+        <translation>Change the tab or use a tool; the result is shown here.</translation>
     </message>
     <message>
         <source>工作台</source>
@@ -2534,7 +2534,7 @@ for the fourth axis</translation>
     </message>
     <message>
         <source>最高转速</source>
-        <translation>Top speed</translation>
+        <translation>Max. speed</translation>
     </message>
     <message>
         <source>功率</source>
@@ -2550,7 +2550,7 @@ for the fourth axis</translation>
     </message>
     <message>
         <source>刀位</source>
-        <translation>Places</translation>
+        <translation>Pockets</translation>
     </message>
     <message>
         <source>换刀时间</source>
@@ -2570,11 +2570,11 @@ for the fourth axis</translation>
     </message>
     <message>
         <source>工具栏</source>
-        <translation>Tool bars</translation>
+        <translation>Toolbars</translation>
     </message>
     <message>
         <source>上面是一组工具：两个大按钮和一叠小按钮；下面的细工具栏切换视图里的内容。</source>
-        <translation>Above a block of tools, two large ones and a stack of small ones; below a slim bar that switches what the view shows.</translation>
+        <translation>Above, a group of tools: two large ones and a stack of small ones; below, a slim toolbar that switches what the view shows.</translation>
     </message>
     <message>
         <source>视角</source>
@@ -2637,7 +2637,7 @@ for the fourth axis</translation>
     </message>
     <message>
         <source>编辑刀具</source>
-        <translation>Edit a cutter</translation>
+        <translation>Edit tool</translation>
     </message>
     <message>
         <source>名称</source>
@@ -2664,7 +2664,7 @@ for the fourth axis</translation>
     <name>ToolTable</name>
     <message>
         <source>库位</source>
-        <translation>Place</translation>
+        <translation>Pocket</translation>
     </message>
     <message>
         <source>刀具</source>
@@ -2683,7 +2683,7 @@ for the fourth axis</translation>
     <name>ToolTablePage</name>
     <message>
         <source>单击一行选择刀具，双击直径或长度修改数值。</source>
-        <translation>Click a row to choose its tool; double-click a diameter or a length to edit it.</translation>
+        <translation>Click a row to choose its tool; double-click a diameter or length to edit it.</translation>
     </message>
     <message>
         <source>粗加工</source>
@@ -2691,7 +2691,7 @@ for the fourth axis</translation>
     </message>
     <message>
         <source>只能选择立铣刀，其余刀具显示为灰色。</source>
-        <translation>Only end mills can be chosen; the other tools are grey.</translation>
+        <translation>Only end mills can be chosen; the other tools are greyed out.</translation>
     </message>
     <message>
         <source>精加工</source>
@@ -2699,7 +2699,7 @@ for the fourth axis</translation>
     </message>
     <message>
         <source>只能选择球头铣刀和锥度球头铣刀。</source>
-        <translation>Only ball nose mills can be chosen, tapered or not.</translation>
+        <translation>Only ball end mills can be chosen, tapered or not.</translation>
     </message>
     <message>
         <source>已选择刀具：</source>
@@ -2715,19 +2715,19 @@ for the fourth axis</translation>
     </message>
     <message>
         <source>确认刀具</source>
-        <translation>Confirm the tools</translation>
+        <translation>Confirm tools</translation>
     </message>
     <message>
         <source>开始加工</source>
-        <translation>Start the job</translation>
+        <translation>Start machining</translation>
     </message>
     <message>
         <source>加工前列出所选刀具及其库位，由用户确认。</source>
-        <translation>Before the job the chosen tools are listed with their places, to be confirmed.</translation>
+        <translation>Lists the chosen tools and their pockets to be confirmed.</translation>
     </message>
     <message>
         <source>刀具已确认，可以开始加工。</source>
-        <translation>The tools are confirmed; the job can start.</translation>
+        <translation>The tools are confirmed; machining can start.</translation>
     </message>
     <message>
         <source>未确认刀具。</source>
@@ -2739,7 +2739,7 @@ for the fourth axis</translation>
     </message>
     <message>
         <source>支架_铝合金_精加工_2mm球头刀.nc</source>
-        <translation>bracket_aluminium_finishing_2mm-ball-nose.nc</translation>
+        <translation>Bracket_aluminium_finishing_2mm_ball_end_mill.nc</translation>
     </message>
     <message>
         <source>奖章_黄铜_精加工.nc</source>
@@ -2747,11 +2747,11 @@ for the fourth axis</translation>
     </message>
     <message>
         <source>外壳上盖_亚克力_轮廓与孔_双面装夹_待确认.nc</source>
-        <translation>cover_acrylic_contour-and-holes_two-sided_to-confirm.nc</translation>
+        <translation>Upper_cover_acrylic_outline_and_holes_two_sides_to_be_confirmed.nc</translation>
     </message>
     <message>
         <source>待加工的程序</source>
-        <translation>Waiting programs</translation>
+        <translation>Queued programs</translation>
     </message>
     <message>
         <source>文件</source>
@@ -2767,11 +2767,11 @@ for the fourth axis</translation>
     </message>
     <message>
         <source>文件名放不下时省略中间，结尾的修订号仍然可见。</source>
-        <translation>A name that has no room is cut in the middle; the revision at its end still shows.</translation>
+        <translation>Long names are cut in the middle; the revision still shows.</translation>
     </message>
     <message>
         <source>还没有选择刀具。</source>
-        <translation>No tool is chosen yet.</translation>
+        <translation>No tool chosen yet.</translation>
     </message>
 </context>
 <context>
@@ -2782,7 +2782,7 @@ for the fourth axis</translation>
     </message>
     <message>
         <source>打开预览窗口</source>
-        <translation>Open the preview</translation>
+        <translation>Open preview</translation>
     </message>
     <message>
         <source>移动</source>
@@ -2790,7 +2790,7 @@ for the fourth axis</translation>
     </message>
     <message>
         <source>放大</source>
-        <translation>Grow</translation>
+        <translation>Enlarge</translation>
     </message>
     <message>
         <source>关闭</source>
@@ -2798,11 +2798,11 @@ for the fourth axis</translation>
     </message>
     <message>
         <source>内测标记</source>
-        <translation>Mark of an internal build</translation>
+        <translation>Watermark of an internal build</translation>
     </message>
     <message>
         <source>标记是一个独立的窗口，鼠标和键盘都能穿过；预览窗口移动或缩放时它跟着走。</source>
-        <translation>The mark is a window of its own that mouse and keys pass through; it follows the preview when that moves or grows.</translation>
+        <translation>The watermark is a window of its own that mouse and keys pass through; it follows the preview when that moves or changes its size.</translation>
     </message>
     <message>
         <source>主轴转动</source>
@@ -2826,11 +2826,11 @@ for the fourth axis</translation>
     </message>
     <message>
         <source>逐帧动画</source>
-        <translation>Flip-book</translation>
+        <translation>Frame animation</translation>
     </message>
     <message>
         <source>图片按间隔逐张显示。</source>
-        <translation>Pictures shown one after the other.</translation>
+        <translation>Pictures shown one after another at an interval.</translation>
     </message>
 </context>
 </TS>
