@@ -272,6 +272,7 @@ void CCustomMenu::HideMenuBtn(const QList<QString>& texts)
 {
     const QSet<QString> wanted(texts.cbegin(), texts.cend());
     // By index: a chosen row that is hidden says so, and whoever hears it may remove others.
+    // NOLINTNEXTLINE(modernize-loop-convert)
     for (int index = 0; index < m_listButtons.size(); ++index) {
         CCustomMenuItem* row = m_listButtons.at(index);
         if (IsEnabledItself(row) && wanted.contains(row->text())) {
@@ -287,6 +288,7 @@ void CCustomMenu::ShowMenuBtn(const QList<QString>& texts)
 {
     const QSet<QString> wanted(texts.cbegin(), texts.cend());
     // By index: one that comes under the cursor is entered at once, and whoever hears it may remove others.
+    // NOLINTNEXTLINE(modernize-loop-convert)
     for (int index = 0; index < m_listButtons.size(); ++index) {
         CCustomMenuItem* row = m_listButtons.at(index);
         if (!IsEnabledItself(row) && wanted.contains(row->text())) {

@@ -298,7 +298,8 @@ void CVelmarMenu::AddMenuItem(const QString& text, const QString& icon, const QS
     connect(item, &QObject::destroyed, this, [this, item] { ItemGone(item); });
     connect(item, &CVelmarMenuItem::SignalMenuBtnFocus, this, [this](bool focus) {
         const QPointer<CVelmarMenu> self(this);
-        Q_EMIT SignalMenuBtnFocus(focus);
+        // The analyzer takes the question below for a doubt about this call.
+        Q_EMIT SignalMenuBtnFocus(focus); // NOLINT(clang-analyzer-core.CallAndMessage)
         if (self && !focus) {
             hide();
         }
