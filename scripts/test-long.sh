@@ -75,7 +75,7 @@ for step in "${steps[@]}"; do
         tee "build/long-$step.log" || { result=FAILED status=1; }
     sums=$(grep -E '^[0-9]+ passed, [0-9]+ failed, [0-9]+ skipped$' "build/long-$step.log" | tail -n 1 || true)
     [ -n "$sums" ] || { result="FAILED before its tests ended" status=1 sums="0 passed, 1 failed, 0 skipped"; }
-    read -r p f s < <(tr -dc '0-9 ' <<<"$sums")
+    read -r p f s <<<"$(tr -dc '0-9 ' <<<"$sums")"
     all_passed=$((all_passed + p)) all_failed=$((all_failed + f)) all_skipped=$((all_skipped + s))
     lines+=("$(printf '%-10s %5d s   %s: %s' "$step" $((SECONDS - start)) "$result" "$sums")")
 done
