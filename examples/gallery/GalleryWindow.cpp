@@ -51,6 +51,7 @@ GalleryWindow::GalleryWindow(const GalleryOptions& options, QWidget* parent)
         scroll->verticalScrollBar()->setStyleSheet(GalleryStyle::ScrollBars());
         scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         scroll->setWidgetResizable(true);
+        scroll->setFocusPolicy(Qt::ClickFocus); // with Tab what it holds is reached, which hands it the scrolling keys
         m_pStack->addWidget(scroll);
     }
 

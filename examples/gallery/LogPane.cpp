@@ -19,7 +19,8 @@ namespace {
 constexpr int PaneHeight = 112;
 constexpr int LineLimit = 2000;
 constexpr auto PaneSheet = "#logPane{background:#f6f6f6;border-top:1px solid #e2e2e2;}";
-constexpr auto TextSheet = "#logText{background:#f6f6f6;border:none;}";
+constexpr auto TextSheet = "#logText{background:#f6f6f6;border:1px solid transparent;}"
+                           "#logText:focus{border-color:#188553;}";
 } // namespace
 
 LogPane::LogPane(QWidget* parent)

@@ -22,10 +22,13 @@ constexpr auto ColumnSheet = "#pageColumn{background:#f6f6f6;border-right:1px so
 constexpr auto SearchSheet = "#pageSearch{background:#ffffff;border:1px solid #d5d5d5;border-radius:6px;"
                              "padding:0 4px;color:#333333;}"
                              "#pageSearch:hover{border-color:#b8b8b8;}#pageSearch:focus{border-color:#188553;}";
-constexpr auto ListSheet = "#pageList{background:transparent;border:none;outline:none;}"
-                           "#pageList::item{color:#333333;border-radius:6px;padding-left:14px;margin-bottom:4px;}"
-                           "#pageList::item:hover{background:#e6ebe8;}"
-                           "#pageList::item:selected{background:#188553;color:#ffffff;}";
+constexpr auto ListSheet =
+    "#pageList{background:transparent;border:none;outline:none;}"
+    "#pageList::item{color:#333333;border:2px solid transparent;border-radius:6px;padding-left:12px;"
+    "margin-bottom:4px;}"
+    "#pageList::item:hover{background:#e6ebe8;}"
+    "#pageList::item:selected{background:#188553;color:#ffffff;}"
+    "#pageList::item:focus{border-color:#9fd8bd;}";
 constexpr auto NothingSheet = "#pageNothing{color:#666666;background:transparent;padding:16px 14px;}";
 } // namespace
 

@@ -28,7 +28,9 @@ constexpr int StripWidth = 394;
 
 constexpr auto PanelSheet = "#parameterPanel{background:#f6f6f6;border-radius:6px;}";
 constexpr auto StepsSheet = "#stepPanel{background:#3d4245;border-radius:6px;}";
-constexpr auto StepListSheet = "#stepList{background:transparent;border:none;outline:none;padding:0 8px;color:#d7dcda;}"
+constexpr auto StepListSheet = "#stepList{background:transparent;border:2px solid transparent;border-radius:6px;"
+                               "outline:none;padding:0 6px;color:#d7dcda;}"
+                               "#stepList:focus{border-color:#2ab475;}"
                                "#stepList::item{border-radius:4px;padding-left:12px;margin:1px 0;}"
                                "#stepList::item:hover{background:#4b5154;}"
                                "#stepList::item:selected{background:#188553;color:#ffffff;}";

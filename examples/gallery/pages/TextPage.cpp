@@ -16,7 +16,8 @@
 namespace {
 constexpr int ViewHeight = 380;
 constexpr int LongestText = 40;
-constexpr auto BrowserSheet = "#textManual{background:#ffffff;border:1px solid #d5d5d5;border-radius:2px;}";
+constexpr auto BrowserSheet = "#textManual{background:#ffffff;border:1px solid #d5d5d5;border-radius:2px;}"
+                              "#textManual:focus{border-color:#188553;}";
 
 /** The two views have no installed headers: a host makes them by name and uses them as what they derive from. */
 //! [text-notes]

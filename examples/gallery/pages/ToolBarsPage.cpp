@@ -6,7 +6,6 @@
 #include <CorvaneBase/CorvaneFonts.h>
 #include <CustomControls/CToolBarStyle.h>
 #include <CustomControls/StatefulIcon.h>
-#include <CustomControls/toolbar/CTabBar.h>
 #include <CustomControls/toolbar/CTabWidget.h>
 #include <CustomControls/toolbar/CToolBar.h>
 #include <CustomControls/toolbar/CToolBarItem.h>

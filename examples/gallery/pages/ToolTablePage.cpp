@@ -32,6 +32,7 @@ constexpr int SizeWidth = 84;
 constexpr auto ChosenSheet = "#chosenTools{background:#f6f6f6;border:1px solid #e2e2e2;border-radius:4px;}";
 constexpr auto ProgramsSheet = "#programs{background:#ffffff;border:1px solid #e2e2e2;border-radius:4px;outline:none;"
                                "color:#333333;}"
+                               "#programs:focus{border-color:#188553;}"
                                "#programs QHeaderView::section{background:#f6f6f6;color:#666666;border:none;"
                                "padding-left:6px;}";
 

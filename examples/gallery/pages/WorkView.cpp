@@ -29,6 +29,8 @@ constexpr double PathStep = 7;
 constexpr double SeenHeight = 250;
 constexpr double SeenWidth = 380;
 
+constexpr double FocusWidth = 2;
+
 // Along an isometric view the two axes of the table fall off by 30 degrees.
 constexpr double Cos30 = 0.8660254;
 constexpr double Sin30 = 0.5;
@@ -130,5 +132,12 @@ void WorkView::paintEvent(QPaintEvent*)
         axis(AxisX, AxisLength, 0, 0);
         axis(AxisY, 0, -AxisLength, 0);
         axis(AxisZ, 0, 0, AxisLength);
+    }
+
+    if (hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
+        painter.resetTransform();
+        painter.setPen(QPen(AxisY, FocusWidth));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(QRectF(rect()).adjusted(1, 1, -1, -1));
     }
 }

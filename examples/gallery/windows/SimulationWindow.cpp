@@ -20,7 +20,8 @@ constexpr auto StripSheet = "#simulationStrip{background:#f6f6f6;border-top:1px 
 constexpr auto SliderSheet = "QSlider::groove:horizontal{height:4px;background:#dcdcdc;border-radius:2px;}"
                              "QSlider::sub-page:horizontal{background:#188553;border-radius:2px;}"
                              "QSlider::handle:horizontal{width:16px;height:16px;margin:-6px 0;border-radius:8px;"
-                             "background:#ffffff;border:1px solid #188553;}";
+                             "background:#ffffff;border:1px solid #188553;}"
+                             "QSlider::handle:horizontal:focus{background:#188553;}";
 } // namespace
 
 //! [frameless-windows]

@@ -15,9 +15,13 @@
 #include <tests/support/TestMain.h>
 
 #include <QAbstractItemView>
+#include <QAbstractSpinBox>
+#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPointer>
 #include <QPushButton>
 #include <QSet>
+#include <QTextEdit>
 #include <QTimer>
 
 namespace {
@@ -51,17 +55,21 @@ bool IsReachedByTab(const QObject* object)
     return widget && widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus) && !widget->focusProxy();
 }
 
-QString Describe(QAccessibleInterface* accessible)
+QString Chain(const QObject* object, int length = 200)
 {
-    const QObject* object = accessible->object();
     QString chain;
-    for (const QObject* ancestor = object; ancestor && chain.size() < 200; ancestor = ancestor->parent()) {
+    for (const QObject* ancestor = object; ancestor && chain.size() < length; ancestor = ancestor->parent()) {
         chain += QStringLiteral(" < %1 '%2'")
                      .arg(QLatin1String(ancestor->metaObject()->className()), ancestor->objectName());
     }
+    return chain;
+}
+
+QString Describe(QAccessibleInterface* accessible)
+{
     return QStringLiteral("role %1, name '%2'%3")
         .arg(int(accessible->role()))
-        .arg(accessible->text(QAccessible::Name), chain);
+        .arg(accessible->text(QAccessible::Name), Chain(accessible->object()));
 }
 
 /** Walks what is visible and collects what somebody could use but not be told of. */
@@ -110,6 +118,73 @@ private:
         if (accessible->rect().isEmpty()) {
             m_complaints.append(QStringLiteral("no size: ") + Describe(accessible));
         }
+    }
+};
+
+/** Whoever types sees a caret; a field that only shows its text has none. */
+bool HasCaret(const QWidget* widget)
+{
+    if (const auto* line = qobject_cast<const QLineEdit*>(widget)) {
+        return !line->isReadOnly();
+    }
+    if (const auto* text = qobject_cast<const QTextEdit*>(widget)) {
+        return !text->isReadOnly();
+    }
+    if (const auto* text = qobject_cast<const QPlainTextEdit*>(widget)) {
+        return !text->isReadOnly();
+    }
+    return qobject_cast<const QAbstractSpinBox*>(widget);
+}
+
+bool IsEmptyList(const QWidget* widget)
+{
+    const auto* view = qobject_cast<const QAbstractItemView*>(widget);
+    return view && (!view->model() || view->model()->rowCount() == 0);
+}
+
+/** Gives the keyboard to each thing in the window that Tab reaches, and collects what looks the same then. */
+class FocusWalk
+{
+public:
+    explicit FocusWalk(QWidget* window)
+    {
+        window->setAttribute(Qt::WA_KeyboardFocusChange); // as the first press of Tab does
+        const QList<QPointer<QWidget>> widgets = Pointers(window->findChildren<QWidget*>());
+        for (const QPointer<QWidget>& widget : widgets) {
+            // An empty list has no row to show it on; a CXCombobox looks the same with the focus by the product's own
+            // choice.
+            if (widget && widget->window() == window && widget->isVisible() && !widget->visibleRegion().isEmpty() &&
+                IsReachedByTab(widget) && !HasCaret(widget) && !widget->inherits("CXCombobox") &&
+                !IsEmptyList(widget)) {
+                Check(widget);
+            }
+        }
+    }
+
+    QStringList m_complaints;
+    int m_iChecked = 0;
+
+private:
+    static QList<QPointer<QWidget>> Pointers(const QList<QWidget*>& widgets)
+    {
+        return QList<QPointer<QWidget>>(widgets.begin(), widgets.end());
+    }
+
+    void Check(QWidget* widget)
+    {
+        widget->setFocus(Qt::MouseFocusReason);
+        widget->clearFocus();
+        const QImage without = widget->grab().toImage();
+        widget->setFocus(Qt::TabFocusReason);
+        const bool taken = widget->hasFocus();
+        const QImage with = widget->grab().toImage();
+        widget->clearFocus();
+        if (!taken) {
+            m_complaints.append(QStringLiteral("takes no focus: ") + Chain(widget, 50));
+        } else if (with == without) {
+            m_complaints.append(QStringLiteral("shows no focus: ") + Chain(widget, 50));
+        }
+        ++m_iChecked;
     }
 };
 
@@ -186,6 +261,63 @@ private Q_SLOTS:
         }
     }
 
+    void focusWalkFindsWhatLooksTheSame()
+    {
+        QWidget window;
+        auto* plain = new QWidget(&window);
+        plain->setFocusPolicy(Qt::StrongFocus);
+        plain->resize(20, 20);
+        (new QPushButton(QStringLiteral("x"), &window))->move(40, 0);
+        (new QLineEdit(&window))->move(0, 40);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        const FocusWalk walk(&window);
+        QCOMPARE(walk.m_iChecked, 2);
+        QCOMPARE(walk.m_complaints.size(), 1);
+        QVERIFY(walk.m_complaints.at(0).startsWith(QLatin1String("shows no focus:  < QWidget")));
+    }
+
+    void everyPageShowsWhereTheKeyboardIs()
+    {
+        GalleryOptions options;
+        options.iDiscoveryPort = kDiscoveryPort;
+        GalleryWindow window(options);
+        window.resize(1280, 3000); // what is scrolled out of sight is not looked at
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QStringList complaints;
+        for (const PageEntry& page : GalleryPages()) {
+            QVERIFY(window.OpenPage(page.strName));
+            QCoreApplication::processEvents();
+            const FocusWalk walk(&window);
+            for (const QString& complaint : walk.m_complaints) {
+                if (!complaints.contains(complaint)) {
+                    complaints.append(complaint);
+                }
+            }
+            QVERIFY2(walk.m_iChecked > 10, qPrintable(page.strName));
+        }
+        for (const QString& complaint : complaints) {
+            qWarning("%s", qPrintable(complaint)); // each for itself: a failure's own text is cut
+        }
+        QVERIFY(complaints.isEmpty());
+    }
+
+    void everyWindowShowsWhereTheKeyboardIs()
+    {
+        SimulationWindow simulation(nullptr);
+        ToolDialog dialog(nullptr);
+        PositionPanel panel;
+        for (QWidget* window :
+             {static_cast<QWidget*>(&simulation), static_cast<QWidget*>(&dialog), static_cast<QWidget*>(&panel)}) {
+            window->show();
+            window->activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(window));
+            const FocusWalk walk(window);
+            VERIFY_WALK(walk);
+        }
+    }
+
     void everyWindowCanBeTold()
     {
         SimulationWindow simulation(nullptr);
@@ -216,10 +348,14 @@ private Q_SLOTS:
         progress.setProText(QStringLiteral("正在计算"), QStringLiteral("计算"));
         progress.show();
         VERIFY_WALK(Walk(&progress));
+        QVERIFY(QTest::qWaitForWindowActive(&progress));
+        VERIFY_WALK(FocusWalk(&progress));
         progress.hide();
         const QPointer<CSelectMachineBox> panel = new CSelectMachineBox(nullptr);
         panel->show();
         VERIFY_WALK(Walk(panel));
+        QVERIFY(QTest::qWaitForWindowActive(panel));
+        VERIFY_WALK(FocusWalk(panel));
         panel->SetIsCalibConnectMachine();
         VERIFY_WALK(Walk(panel));
         panel->close();

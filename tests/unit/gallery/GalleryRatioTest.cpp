@@ -5,14 +5,16 @@
 #include <tests/support/TestMain.h>
 
 #include <QAbstractButton>
+#include <QDirIterator>
+#include <QFile>
 #include <QIcon>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollArea>
+#include <QSet>
 #include <QStyle>
 
-#include <algorithm>
 #include <memory>
 
 /** Every page in both languages, at the ratio that QT_SCALE_FACTOR sets for the process. */
@@ -38,7 +40,37 @@ private:
 };
 
 namespace {
-constexpr double LargestTwin = 2.0; // the files go up to "@2x"
+/** What tells a picture apart, whatever its ratio. */
+QByteArray Content(const QPixmap& pixmap)
+{
+    const QImage image = pixmap.toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    QByteArray content = QByteArray::number(image.width()) + 'x' + QByteArray::number(image.height()) + ' ';
+    for (int y = 0; y < image.height(); ++y) {
+        content.append(reinterpret_cast<const char*>(image.constScanLine(y)), qsizetype(image.width()) * 4);
+    }
+    return content;
+}
+
+/** The files that have no larger twin: the library's go up to "@2x" or have none, the gallery's to "@3x". */
+QSet<QByteArray> LargestFiles()
+{
+    QSet<QByteArray> contents;
+    for (QDirIterator files(QStringLiteral(":/"), {QStringLiteral("*.png"), QStringLiteral("*.gif")}, QDir::Files,
+                            QDirIterator::Subdirectories);
+         files.hasNext();) {
+        const QString file = files.next();
+        if (file.contains(QLatin1Char('@'))) {
+            continue;
+        }
+        QString largest = file;
+        for (const char* twin : {"@2x", "@3x"}) {
+            const QString path = QString(file).insert(file.lastIndexOf(QLatin1Char('.')), QLatin1String(twin));
+            largest = QFile::exists(path) ? path : largest;
+        }
+        contents.insert(Content(QPixmap::fromImage(QImage(largest))));
+    }
+    return contents;
+}
 
 QString Name(const QWidget* widget)
 {
@@ -172,19 +204,23 @@ void GalleryRatioTest::CheckPictures()
 {
     const double ratio = m_pWindow->devicePixelRatio();
     // Between whole ratios the toolkit takes the twin whose size is nearest, which may be the smaller one.
-    const double sharp = std::min(std::floor(ratio), LargestTwin);
+    const double sharp = std::floor(ratio);
+    static const QSet<QByteArray> largest = LargestFiles();
+    const auto isSharp = [sharp](const QPixmap& pixmap) {
+        return pixmap.devicePixelRatio() >= sharp || largest.contains(Content(pixmap));
+    };
     const QList<QWidget*> widgets = Seen();
     for (QWidget* widget : widgets) {
         if (const auto* label = qobject_cast<QLabel*>(widget); label && !label->pixmap(Qt::ReturnByValue).isNull()) {
             const QPixmap pixmap = label->pixmap(Qt::ReturnByValue);
-            QVERIFY2(pixmap.devicePixelRatio() >= sharp, qPrintable(Name(label)));
+            QVERIFY2(isSharp(pixmap), qPrintable(Name(label)));
         }
         const auto* button = qobject_cast<QAbstractButton*>(widget);
         // The toolkit's buttons in a field paint their icon at a size of the field's.
         const bool inField = qobject_cast<QLineEdit*>(widget->parentWidget());
         if (button && !inField && !button->icon().isNull()) {
             const QPixmap pixmap = button->icon().pixmap(button->iconSize(), ratio);
-            QVERIFY2(pixmap.devicePixelRatio() >= sharp, qPrintable(Name(button)));
+            QVERIFY2(isSharp(pixmap), qPrintable(Name(button)));
         }
     }
     const QImage image = m_pWindow->grab().toImage();
