@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr qint64 kLargestFile = 16 * 1024 * 1024;
+constexpr qint64 kLargestFile = qint64(16) * 1024 * 1024;
 constexpr int kLargestNumber = 9999;
 constexpr int kLargestType = 999;
 constexpr int kLargestLocation = 999;
@@ -152,7 +152,7 @@ private:
             }
             const QJsonArray array = it.value().toArray();
             QList<ToolBit> tools;
-            for (const QJsonValue& entry : array) {
+            for (const auto& entry : array) {
                 tools.append(ToolBit());
                 const QString reason = ReadTool(entry, &tools.last());
                 if (!reason.isEmpty()) {
