@@ -51,7 +51,7 @@ QString AccessibleControl::text(QAccessible::Text type) const
         if (!control->accessibleName().isEmpty()) {
             return control->accessibleName();
         }
-        const QString caption = SpokenText(Caption());
+        QString caption = SpokenText(Caption());
         if (!caption.isEmpty()) {
             return caption;
         }
