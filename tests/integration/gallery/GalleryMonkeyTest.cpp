@@ -26,7 +26,8 @@
 // window manager grants.
 //
 // A failure names its seed, its page and its event; the same "--seed N --events N --page NAME" replays it, and
-// "--trace" prints every event.
+// "--trace" prints every event. "--replay" plays each page once more with the same seed and once with another, and
+// fails when the first differs or the second does not.
 
 namespace {
 constexpr int SettleRounds = 300;
@@ -151,6 +152,8 @@ int main(int argc, char* argv[])
     const QCommandLineOption pageOption = option("page", "GALLERY_MONKEY_PAGE", "");
     const QCommandLineOption traceOption(QStringLiteral("trace"));
     parser.addOption(traceOption);
+    const QCommandLineOption replayOption(QStringLiteral("replay"));
+    parser.addOption(replayOption);
     parser.process(app);
     const quint32 seed = parser.value(seedOption).toUInt();
     const int pages = int(GalleryPages().size());
@@ -163,6 +166,7 @@ int main(int argc, char* argv[])
     const MonkeyWatchdog watchdog;
     VirtualProcess::Start();
     int grown = 0;
+    int strayed = 0;
     for (qsizetype index = 0; index < GalleryPages().size(); ++index) {
         const QString page = GalleryPages().at(index).strName;
         if (!parser.value(pageOption).isEmpty() && page != parser.value(pageOption)) {
@@ -176,11 +180,26 @@ int main(int argc, char* argv[])
             QStringLiteral("--seed %1 --events %2 --page %3").arg(seed).arg(events * GalleryPages().size()).arg(page));
         Play(page, seed * 1000 + quint32(index), events);
         grown += HasGrown(page, before, mark);
+        if (parser.isSet(replayOption)) {
+            const quint32 first = MonkeyRecord::Digest();
+            const auto again = [&](quint32 otherSeed) {
+                MonkeyRecord::SetScene(QStringLiteral("replaying page %1 with seed %2").arg(page).arg(otherSeed));
+                Play(page, otherSeed * 1000 + quint32(index), events);
+                return MonkeyRecord::Digest();
+            };
+            const bool same = again(seed) == first;
+            const bool other = again(seed + 1) != first;
+            if (!same || !other) {
+                std::printf("%-20s the same seed %s, another seed %s\n", qPrintable(page),
+                            same ? "replays" : "DOES NOT REPLAY", other ? "differs" : "GIVES THE SAME");
+                ++strayed;
+            }
+        }
     }
     VirtualProcess::Stop();
     std::printf("%d events for each page, seed %u: %d pages left something behind, %d warnings\n", events, seed, grown,
                 MonkeyRecord::WarningCount());
-    return grown == 0 && MonkeyRecord::WarningCount() == 0 ? 0 : 1;
+    return grown == 0 && strayed == 0 && MonkeyRecord::WarningCount() == 0 ? 0 : 1;
 }
 
 #include "GalleryMonkeyTest.moc"

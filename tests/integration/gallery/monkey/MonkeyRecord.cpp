@@ -10,6 +10,8 @@
 #include <csignal>
 #include <cstdio>
 #include <cstring>
+#include <fstream>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 // Of the sanitizers' runtime, where there is one.
@@ -24,7 +26,8 @@ namespace {
 constexpr int LinesKept = 30;
 constexpr int LineLength = 200;
 constexpr double ComputingLimit = 2.0; // seconds
-constexpr double WaitingLimit = 30.0;
+// Blocked for longer than computing may last: what it waits for, a worker or the disk, may have to wait itself.
+constexpr double BlockedLimit = 5.0;
 constexpr quint32 HashStart = 2166136261u;
 constexpr quint32 HashPrime = 16777619u;
 
@@ -174,6 +177,7 @@ MonkeyWatchdog::MonkeyWatchdog()
     : m_guiThread(pthread_self())
 {
     pthread_getcpuclockid(m_guiThread, &m_guiClock);
+    m_strSchedule = "/proc/self/task/" + std::to_string(syscall(SYS_gettid)) + "/schedstat";
     m_thread = std::thread([this] { Watch(); });
 }
 
@@ -200,20 +204,30 @@ void MonkeyWatchdog::Watch()
         clock_gettime(m_guiClock, &time);
         return double(time.tv_sec) + double(time.tv_nsec) / 1e9;
     };
+    const auto queued = [this] {
+        double running = 0.0;
+        double waiting = 0.0;
+        std::ifstream(m_strSchedule) >> running >> waiting;
+        return waiting / 1e9;
+    };
     unsigned fed = s_iFed;
     double computedThen = computed();
+    double queuedThen = queued();
     Clock::time_point then = Clock::now();
     std::unique_lock lock(m_mutex);
     while (!m_stopped.wait_for(lock, std::chrono::milliseconds(100), [this] { return m_bStop; })) {
         if (const unsigned now = s_iFed; now != fed) {
             fed = now;
             computedThen = computed();
+            queuedThen = queued();
             then = Clock::now();
             continue;
         }
-        const std::chrono::duration<double> waited = Clock::now() - then;
-        if (computed() - computedThen > ComputingLimit || waited.count() > WaitingLimit) {
-            MonkeyRecord::Print("the program hangs");
+        const std::chrono::duration<double> passed = Clock::now() - then;
+        const double computing = computed() - computedThen;
+        const bool blocked = passed.count() - computing - (queued() - queuedThen) > BlockedLimit;
+        if (computing > ComputingLimit || blocked) {
+            MonkeyRecord::Print(blocked ? "the program hangs, blocked" : "the program hangs, computing");
             pthread_kill(m_guiThread, SIGABRT);
             std::this_thread::sleep_for(std::chrono::seconds(30)); // until that thread has ended the process
             _exit(1);

@@ -6,6 +6,7 @@
 #include <condition_variable>
 #include <ctime>
 #include <mutex>
+#include <string>
 #include <thread>
 
 class QByteArray;
@@ -42,8 +43,9 @@ int WarningCount();
 } // namespace MonkeyRecord
 
 /**
- * Ends the process, with the GUI thread's stack, when one event takes too long: two seconds of computing, or half a
- * minute of waiting. A busy machine makes everything wait, so a wait alone says nothing sooner.
+ * Ends the process, with the GUI thread's stack, when one event takes too long: two seconds of computing, or five of
+ * being blocked. Time in which the thread could run and other programs had the processor counts for neither, so both
+ * limits hold on a busy machine too.
  */
 class MonkeyWatchdog
 {
@@ -60,6 +62,7 @@ private:
 
     pthread_t m_guiThread;
     clockid_t m_guiClock = 0;
+    std::string m_strSchedule; ///< the file in which the system tells how long that thread waited for a processor
     std::mutex m_mutex;
     std::condition_variable m_stopped;
     bool m_bStop = false;
