@@ -12,6 +12,7 @@
 #include <CorvaneBase/CorvaneTextHelper.h>
 
 #include <tests/support/LogCapture.h>
+#include <tests/support/ProcessorTime.h>
 #include <tests/support/TestMain.h>
 
 #include <QDesktopServices>
@@ -169,6 +170,7 @@ private Q_SLOTS:
     void deletedInTheMachineSelectedSlot();
     void deletedInTheRefreshSlot();
     void deletedWhileThePopUpHasTheFocus();
+    void manyMachinesCostWhatFewDo();
 
 public Q_SLOTS:
     void openSettings(const QUrl& url) { m_listOpened << url; }
@@ -1381,6 +1383,29 @@ void CSelectMachineBoxTest::deletedWhileThePopUpHasTheFocus()
     QTest::keyClicks(panel->m_pIpLineEdit->ui->lineEdit, QStringLiteral("1.2"));
     delete panel;
     QVERIFY(!panel);
+}
+
+void CSelectMachineBoxTest::manyMachinesCostWhatFewDo()
+{
+    const auto perMachine = [](int machines) {
+        Panel panel;
+        panel.show();
+        const ProcessorTime time;
+        for (int machine = 0; machine < machines; ++machine) {
+            panel.SetMachineInfo(Machine(QStringLiteral("SN%1").arg(machine),
+                                         QStringLiteral("10.0.%1.%2").arg(machine / 250).arg(machine % 250), Eth),
+                                 false);
+        }
+        QCoreApplication::processEvents();
+        const double cost = time.Microseconds() / machines;
+        return panel.m_pModel->rowCount() == machines ? cost : -1.0;
+    };
+    const double few = LeastOfFive([&perMachine] { return perMachine(100); });
+    const double many = perMachine(1000);
+    qInfo("%.1f us per machine at 100, %.1f at 1000: %.2f", few, many, many / few);
+    QVERIFY(few > 0 && many > 0);
+    // Growth with the number of machines would be a factor of ten.
+    QVERIFY(many < 4 * few);
 }
 
 CUSTOMCONTROLS_TEST_MAIN(CSelectMachineBoxTest)

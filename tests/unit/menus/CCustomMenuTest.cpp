@@ -4,6 +4,7 @@
 #include "ui_CCustomMenu.h"
 #include "ui_CCustomMenuItem.h"
 
+#include <tests/support/ProcessorTime.h>
 #include <tests/support/TestMain.h>
 
 #include <CorvaneBase/CorvaneFonts.h>
@@ -115,6 +116,7 @@ private Q_SLOTS:
     void rowsMayBeRemovedByWhoHearsAnotherHidden();
     void panelIsPaintedInItsStyle_data();
     void panelIsPaintedInItsStyle();
+    void manyRowsCostWhatFewDo();
 
 private:
     std::unique_ptr<QWidget> m_window;
@@ -1314,6 +1316,24 @@ void CCustomMenuTest::panelIsPaintedInItsStyle()
     QCOMPARE(colour(20, 36), panel);
     Send(menu.MenuButton(1), QEvent::Enter);
     QCOMPARE(colour(72, 55), style == MenuStyleWhite ? QStringLiteral("#0071bc") : QStringLiteral("#016acb"));
+}
+
+void CCustomMenuTest::manyRowsCostWhatFewDo()
+{
+    const auto perRow = [](int rows) {
+        QWidget window;
+        CCustomMenu menu(&window);
+        const ProcessorTime time;
+        for (int row = 0; row < rows; ++row) {
+            menu.AddMenuItem(row, QStringLiteral("row"), QStringLiteral("Ctrl+R"), {}, {});
+        }
+        return time.Microseconds() / rows;
+    };
+    const double few = LeastOfFive([&perRow] { return perRow(100); });
+    const double many = perRow(1000);
+    qInfo("%.1f us per row at 100, %.1f at 1000: %.2f", few, many, many / few);
+    // Growth with the number of rows would be a factor of ten.
+    QVERIFY(many < 4 * few);
 }
 
 CUSTOMCONTROLS_TEST_MAIN(CCustomMenuTest)

@@ -5,6 +5,7 @@
 #include <CustomControls/toolbar/CToolButton.h>
 #include <CustomControls/toolbar/CToolButtonVertical.h>
 
+#include <tests/support/ProcessorTime.h>
 #include <tests/support/TestMain.h>
 
 #include <QMainWindow>
@@ -110,6 +111,7 @@ private Q_SLOTS:
     void adoptedButtonOutlivesItsBlock();
     void deletedButtonLeavesTheList();
     void blockMayDieInItsButtonsClick();
+    void manyToolsCostWhatFewDo();
 
 private:
     CToolBarItem* MakeBlock(QWidget* parent, const QStringList& captions);
@@ -1033,6 +1035,25 @@ void CToolBarItemTest::blockMayDieInItsButtonsClick()
     button->click();
     QVERIFY(!CToolBar::m_pBtnChecked);
     QVERIFY(!CToolBarItem::m_pToolBarChecked);
+}
+
+void CToolBarItemTest::manyToolsCostWhatFewDo()
+{
+    const auto perTool = [](int tools) {
+        const ProcessorTime time;
+        CToolBarItem block(QStringLiteral("Block"), nullptr);
+        for (int tool = 0; tool < tools; ++tool) {
+            block.AddItem(QString(), QStringLiteral("Tool"), 0, QString());
+        }
+        block.CreateToolBlock(false);
+        return time.Microseconds() / tools;
+    };
+    perTool(50); // the first block also loads what all of them share
+    const double few = LeastOfFive([&perTool] { return perTool(50); });
+    const double many = perTool(1000);
+    qInfo("%.1f us per tool at 50, %.1f at 1000: %.2f", few, many, many / few);
+    // Growth with the number of tools would be a factor of twenty.
+    QVERIFY(many < 4 * few);
 }
 
 CUSTOMCONTROLS_TEST_MAIN(CToolBarItemTest)
