@@ -114,6 +114,7 @@ int main(int argc, char* argv[])
 
     SetLook();
     if (parser.isSet(tour)) {
+        QApplication::setCursorFlashTime(0); // a picture must not depend on the moment
         // What the tour logs and answers is not the user's own.
         const QDir folder(parser.value(tour));
         CDebugLog::SetLogFile(folder.filePath(QStringLiteral("gallery.log")));
