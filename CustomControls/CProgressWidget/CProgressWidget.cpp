@@ -89,7 +89,8 @@ protected:
     }
 };
 
-/** A push button outside of layouts, which needs no margins for them: to learn them it would load its pictures twice. */
+/** A push button outside of layouts, which needs no margins for them: to learn them it would load its pictures twice.
+ */
 class PlacedButton : public QPushButton
 {
 public:

@@ -440,8 +440,7 @@ CCustomMenuItem* CCustomMenu::AddRow(const QString& text, const QString& shortcu
     // Made where the layout would put it anyway: to move a row with its labels costs as much as to make it.
     // With the menu's font, which a parent that wears a sheet doesn't hand down.
     const QFont font = this->font();
-    auto* row =
-        new CCustomMenuItem(ui->m_widgetMenu, &font, text, shortcut, icon, iconHover, iconDisabled, hasSubMenu);
+    auto* row = new CCustomMenuItem(ui->m_widgetMenu, &font, text, shortcut, icon, iconHover, iconDisabled, hasSubMenu);
     // A sub-menu outlives its row. That of a row which once lay at the same address is not this one's.
     if (CCustomMenu* rowless = m_hashSubMenus.take(row)) {
         m_listRowlessSubMenus.append(rowless);
