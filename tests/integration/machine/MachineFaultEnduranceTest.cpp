@@ -135,7 +135,8 @@ qint64 HeldMemory()
 #endif
 }
 
-// The pool makes a thread whenever all that it has are busy, and each brings a descriptor along: all are made beforehand.
+// The pool makes a thread whenever all that it has are busy, and each brings a descriptor along: all are made
+// beforehand.
 void StartAllThreadsOfThePool()
 {
     QThreadPool* pool = QThreadPool::globalInstance();
