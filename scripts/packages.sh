@@ -50,6 +50,8 @@ build_preset() {
     shift
     local options=() targets=()
     command -v ccache >/dev/null && options+=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+    # Without these ccache leaves alone what is compiled on top of precompiled headers.
+    export CCACHE_SLOPPINESS=${CCACHE_SLOPPINESS:-pch_defines,time_macros}
     [ $# -gt 0 ] && targets=(--target "$@")
     say "Building in build/$preset"
     mkdir -p build
