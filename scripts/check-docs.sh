@@ -5,6 +5,7 @@
 #   - every page of what a user can use or read tells its keys and what a screen reader meets;
 #   - every signal, property and operation of a header is told of on its page, and no page tells of a signal or an
 #     operation that there is not;
+#   - the benchmarks' page has its figures;
 #   - every link leads somewhere.
 # With --fix the marked code is taken from the files anew.
 set -euo pipefail
@@ -161,6 +162,10 @@ for page in docs/controls/*.md; do
     check
     [ "$name" = README ] || [ -n "${headers[$name]:-}" ] || problem "$page" "there is no such class"
 done
+
+check
+awk '/^<!-- figures -->$/ { on = 1; next } /^<!-- end of figures -->$/ { on = 0 } on && /^\|/ { found = 1 } END { exit !found }' \
+    benchmarks/README.md || problem benchmarks/README.md "it has no figures; run scripts/benchmark.sh --update"
 
 for text in "${texts[@]}"; do
     folder=$(dirname "$text")
