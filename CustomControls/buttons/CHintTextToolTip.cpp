@@ -1,7 +1,6 @@
 #include <CustomControls/buttons/CHintTextToolTip.h>
 
 #include <CorvaneBase/CorvaneFonts.h>
-#include <CustomControls/PolishWhenShown.h>
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -38,7 +37,6 @@ CHintTextToolTip::CHintTextToolTip(QWidget* ownerButton, QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(m_pLabel, 0, Qt::AlignLeft | Qt::AlignTop);
-    PolishWhenShown(this);
 }
 
 void CHintTextToolTip::setText(const QString& text)

@@ -3,7 +3,6 @@
 #include "ui_CVelmarMenu.h"
 
 #include <CorvaneBase/CorvaneFonts.h>
-#include <CustomControls/PolishWhenShown.h>
 #include <CustomControls/accessibility/AccessibleFactory.h>
 #include <CustomControls/buttons/CVelmarButton.h>
 #include <CustomControls/menus/CVelmarMenuAccessible.h>
@@ -209,7 +208,6 @@ CVelmarMenu::CVelmarMenu(QWidget* parent)
     , ui(new Ui::CVelmarMenu)
 {
     ui->setupUi(this);
-    PolishWhenShown(this);
     ui->m_layoutWidgetMenu->setSpacing(kGap);
     setFocusPolicy(Qt::ClickFocus);
     m_timerLayout.setSingleShot(true);
@@ -292,7 +290,6 @@ void CVelmarMenu::AddListWidgetButton(const QString& text)
 void CVelmarMenu::AddMenuItem(const QString& text, const QString& icon, const QString& shortcut)
 {
     auto* item = new CVelmarMenuItem(ui->m_widgetMenu, text, shortcut, icon, QString(), false);
-    PolishWhenShown(item);
     item->SetMenuStyle(m_eMenuStyle);
     item->SetItemSize(m_iWidth, m_iItemHeight, 0, 0);
     connect(item, &QObject::destroyed, this, [this, item] { ItemGone(item); });

@@ -182,6 +182,7 @@ private Q_SLOTS:
     void entriesAddedToAnOpenListJoinIt();
     void manyEntriesCostWhatFewDo_data();
     void manyEntriesCostWhatFewDo();
+    void manyBoxesCostWhatFewDo();
 };
 
 void CComboBoxTest::cleanup()
@@ -1053,6 +1054,24 @@ void CComboBoxTest::manyEntriesCostWhatFewDo()
     qInfo("%.1f us per entry at 100, %.1f at %d: %.2f", few, many, entries, many / few);
     // Growth with the number of entries would be a factor of twenty or a hundred.
     QVERIFY(many < 4 * few);
+}
+
+void CComboBoxTest::manyBoxesCostWhatFewDo()
+{
+    // A form makes all of its boxes in one turn of the event loop, and the posted events of each wait for its end.
+    const auto perBox = [](int boxes) {
+        QWidget form;
+        const ProcessorTime time;
+        for (int made = 0; made < boxes; ++made) {
+            auto* box = new CComboBox(&form);
+            box->addItems({"1", "2", "3", "4", "5", "6", "7"});
+        }
+        return time.Microseconds() / boxes;
+    };
+    const double few = LeastOfFive([&perBox] { return perBox(20); });
+    const double many = perBox(1000);
+    qInfo("%.1f us per box at 20, %.1f at 1000: %.2f", few, many, many / few);
+    QVERIFY(many < 3 * few);
 }
 
 CUSTOMCONTROLS_TEST_MAIN(CComboBoxTest)
