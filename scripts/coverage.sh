@@ -34,10 +34,14 @@ awk -F, -v least="$least" '
         folder = $1; sub(/\/[^\/]*$/, "", folder)
         library = $1; sub(/\/.*/, "", library)
         all[folder] += $2; reached[folder] += $3
-        if (library != folder) { all[library " in all"] += $2; reached[library " in all"] += $3 }
+        if (library != folder) folders[library] = 1
         total[library] += $2; hit[library] += $3
     }
     END {
+        for (library in folders) {
+            all[library " in all"] = total[library]
+            reached[library " in all"] = hit[library]
+        }
         for (folder in all)
             printf "%-36s %5d of %5d lines  %6.2f %%\n", folder, reached[folder], all[folder], 100 * reached[folder] / all[folder] | "sort"
         close("sort")
