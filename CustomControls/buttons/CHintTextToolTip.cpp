@@ -54,9 +54,6 @@ void CHintTextToolTip::setText(const QString& text)
     }
     m_pLabel->setWordWrap(wrap);
     m_pLabel->setFixedWidth(width + kLabelFrame);
-    // A note that has been shown keeps its size otherwise, and the rest of it would be an invisible window. One that
-    // hasn't takes its size when it is.
-    if (testAttribute(Qt::WA_WState_Created)) {
-        adjustSize();
-    }
+    // A note that has been shown keeps its size otherwise, and the rest of it would be an invisible window.
+    adjustSize();
 }
