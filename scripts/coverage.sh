@@ -19,7 +19,7 @@ case ${1:-} in
     say "Unit and integration tests, counting lines"
     log=build/coverage/tests.log
     # Those that are left out look at the libraries' files, which this build has changed.
-    ctest --preset coverage -L 'unit|integration' -E '^(Package|ExportedClasses|ImportContract)' --no-tests=error \
+    ctest --preset coverage -j "$(nproc)" -L 'unit|integration' -E '^(Package|ExportedClasses|ImportContract)' --no-tests=error \
         --repeat until-pass:2 -V --output-log "$log" >/dev/null || status=1
     report_log "$log"
     ;;
