@@ -1405,7 +1405,7 @@ void CSelectMachineBoxTest::manyMachinesCostWhatFewDo()
     qInfo("%.1f us per machine at 100, %.1f at 1000: %.2f", few, many, many / few);
     QVERIFY(few > 0 && many > 0);
     // Growth with the number of machines would be a factor of ten.
-    QVERIFY(many < 4 * few);
+    QVERIFY(many < kGrowthAllowed * few);
 }
 
 CUSTOMCONTROLS_TEST_MAIN(CSelectMachineBoxTest)
