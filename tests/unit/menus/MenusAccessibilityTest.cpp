@@ -326,6 +326,40 @@ private Q_SLOTS:
         menu.hide();
     }
 
+    void keysOfAFlatMenuGoToItsEndsAndByPages()
+    {
+        QWidget window;
+        CVelmarMenu menu(&window);
+        constexpr int rows = 12;
+        for (int row = 0; row < rows; ++row) {
+            menu.AddMenuItem(QString::number(row), {}, {});
+        }
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        menu.show();
+        menu.setFocus();
+        const auto reached = [&menu](Qt::Key key) {
+            QTest::keyClick(&menu, key);
+            for (int row = 0; row < rows; ++row) {
+                if (menu.m_pKeyRow == menu.MenuItem(row)) {
+                    return row;
+                }
+            }
+            return -1;
+        };
+        QCOMPARE(reached(Qt::Key_End), rows - 1);
+        QCOMPARE(reached(Qt::Key_Home), 0);
+        // A page is what a list shows of its rows, less one that stays in sight.
+        QCOMPARE(reached(Qt::Key_PageDown), 4);
+        QCOMPARE(reached(Qt::Key_PageDown), 8);
+        QCOMPARE(reached(Qt::Key_PageDown), rows - 1);
+        QCOMPARE(reached(Qt::Key_PageUp), 7);
+        QCOMPARE(reached(Qt::Key_PageUp), 3);
+        QCOMPARE(reached(Qt::Key_PageUp), 0);
+        QCOMPARE(reached(Qt::Key_A), 0);
+        menu.hide();
+    }
+
     void pressOfAFlatRowIsOneClick()
     {
         CVelmarMenu menu(nullptr);
