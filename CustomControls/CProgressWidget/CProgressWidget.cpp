@@ -89,8 +89,7 @@ protected:
     }
 };
 
-/** A push button outside of layouts, which needs no margins for them: to learn them it would load its pictures twice.
- */
+/** A push button outside of layouts: to learn its margins for them it would load its pictures twice. */
 class PlacedButton : public QPushButton
 {
 public:
