@@ -237,7 +237,7 @@ Deb)
     fi
     # Stripped, and found by each other alone: not one library comes from the build.
     while read -r binary; do
-        file -b "$binary" | grep -q ', stripped' || { echo "not stripped: $binary"; exit 1; }
+        grep -q ', stripped' <<<"$(file -b "$binary")" || { echo "not stripped: $binary"; exit 1; }
         if readelf -d "$binary" | grep -E '(RPATH|RUNPATH)' | grep -v '\[\$ORIGIN'; then
             echo "$binary looks for libraries in a fixed place"
             exit 1
@@ -247,17 +247,19 @@ Deb)
             exit 1
         fi
     done < <(find "$root/usr" -type f \( -name '*.so*' -o -path '*/bin/*' \))
-    if grep -rlF -e "$source" -e "$build" "$root"; then
+    if grep -rlF -e "$source/" -e "$build/" "$root"; then
         echo "these files tell where they were built"
         exit 1
     fi
 
     for program in gallery machine-simulator; do
-        timeout 30 "$root/usr/bin/$program" --help | grep -q -- --help || { echo "$program gives no help"; exit 1; }
-        timeout 30 "$root/usr/bin/$program" --version | grep -qF "$version" || { echo "$program is another version"; exit 1; }
+        grep -q -- --help <<<"$(timeout 30 "$root/usr/bin/$program" --help)" || { echo "$program gives no help"; exit 1; }
+        grep -qF "$version" <<<"$(timeout 30 "$root/usr/bin/$program" --version)" ||
+            { echo "$program is another version"; exit 1; }
     done
     configure "$source/examples/hello" "$work/hello" -DCMAKE_PREFIX_PATH="$root/usr"
-    ldd "$work/hello/hello" | grep -qF "$(realpath "$library")/libCustomControls.so" || { echo "hello found another"; exit 1; }
+    grep -qF "$(realpath "$library")/libCustomControls.so" <<<"$(ldd "$work/hello/hello")" ||
+        { echo "hello found another"; exit 1; }
     greet "$work/hello/hello"
     ;;
 *)
