@@ -41,6 +41,9 @@ LogPane::LogPane(QWidget* parent)
     m_pText->setMaximumBlockCount(LineLimit);
     m_pText->document()->setDocumentMargin(0);
     m_pText->setStyleSheet(QLatin1String(TextSheet) + GalleryStyle::ScrollBars());
+    // Lines wrap, yet the toolkit comes to want this bar at times. It takes the room of a line, and with a line more or
+    // less the toolkit can show and hide it forever.
+    m_pText->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(20, 8, 8, 6);
