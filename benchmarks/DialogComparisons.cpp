@@ -203,6 +203,7 @@ void AddProgressDialog()
     }
     cast.bWindow = true;
     cast.bOpens = true;
+    cast.bAnimated = true;
     Life::AddComparisons(cast);
 }
 

@@ -33,6 +33,33 @@ void Spin(int ms)
     loop.exec();
 }
 
+// A control on a window of its own, or as one, on the screen.
+class Shown
+{
+public:
+    Shown(const Cast& cast, const Subject& subject)
+    {
+        if (!cast.bWindow) {
+            m_pWindow = std::make_unique<QWidget>();
+            m_pWindow->resize(kStage);
+            m_pWindow->show();
+        }
+        QWidget* widget = subject.make(m_pWindow.get());
+        if (!m_pWindow) {
+            m_pWindow.reset(widget);
+        }
+        if (subject.show) {
+            subject.show(widget);
+        } else {
+            widget->show();
+        }
+    }
+    QWidget* Window() const { return m_pWindow.get(); }
+
+private:
+    std::unique_ptr<QWidget> m_pWindow;
+};
+
 void BookWaiting(Ledger& ledger)
 {
     Spin(kSettleMs);
@@ -75,44 +102,40 @@ void AddWaiting(const char* name, const Comparison::Round& ours)
 std::vector<Line> Idle::Run()
 {
     auto* const application = static_cast<IdleApplication*>(QCoreApplication::instance());
-    std::vector<std::unique_ptr<QWidget>> widgets;
     std::vector<Line> lines;
     for (const Cast& cast : Life::Casts()) {
         Line& line = lines.emplace_back();
         line.strControl = cast.strControl;
         line.strPhase = "ten seconds at rest";
     }
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        const Cast& cast = Life::Casts()[i];
-        for (int variant = 0; variant < VariantCount; ++variant) {
-            const Subject& subject = cast.subjects[variant];
-            if (!subject.make) {
-                continue;
+    const auto forEach = [&lines](bool animated, const auto& rest) {
+        for (std::size_t i = 0; i < lines.size(); ++i) {
+            const Cast& cast = Life::Casts()[i];
+            for (int variant = 0; variant < VariantCount; ++variant) {
+                const Subject& subject = cast.subjects[variant];
+                if (subject.make && cast.bAnimated == animated) {
+                    rest(cast, subject, lines[i].dCosts[variant]);
+                }
             }
-            QWidget* window = nullptr;
-            if (!cast.bWindow) {
-                window = widgets.emplace_back(std::make_unique<QWidget>()).get();
-                window->resize(kStage);
-                window->show();
-            }
-            QWidget* widget = subject.make(window);
-            if (!window) {
-                window = widgets.emplace_back(widget).get();
-            }
-            if (subject.show) {
-                subject.show(widget);
-            } else {
-                widget->show();
-            }
-            application->Watch(window, &lines[i].dCosts[variant]);
         }
-    }
+    };
+    forEach(true, [](const Cast& cast, const Subject& subject, double& seconds) {
+        const Shown shown(cast, subject);
+        Spin(kSettleMs);
+        Meter::Start();
+        Spin(kIdleMs);
+        seconds = Meter::Stop("idle");
+    });
+    std::vector<Shown> shown;
+    forEach(false, [&](const Cast& cast, const Subject& subject, double& seconds) {
+        application->Watch(shown.emplace_back(cast, subject).Window(), &seconds);
+    });
     Spin(kSettleMs);
     application->SetWatching(true);
     Spin(kIdleMs);
     application->SetWatching(false);
-    while (!widgets.empty()) {
-        widgets.pop_back();
+    while (!shown.empty()) {
+        shown.pop_back();
     }
     return lines;
 }

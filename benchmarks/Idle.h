@@ -7,7 +7,8 @@ namespace Idle {
 
 /**
  * Shows all controls, and all of their counterparts, in windows of their own, lets ten seconds pass and returns the
- * processor time that each took of them. An event counts for the window that its receiver belongs to.
+ * processor time that each took of them. An event counts for the window that its receiver belongs to. What is animated
+ * gets ten seconds alone, and all that the process does counts.
  */
 std::vector<Line> Run();
 

@@ -43,6 +43,8 @@ struct Cast
     bool bGrowsOpen = true;
     /** Nothing but the adding of entries is measured: the rest is measured of another cast already. */
     bool bGrowthOnly = false;
+    /** It moves while nobody does anything. The toolkit's animations run on timers that belong to no window. */
+    bool bAnimated = false;
     std::map<std::string, double> goals = {};
 };
 
