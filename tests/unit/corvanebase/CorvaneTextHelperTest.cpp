@@ -181,7 +181,7 @@ void CorvaneTextHelperTest::valuesComeBackWithTheirType_data()
     QTest::newRow("empty string") << QVariant(QString(""));
     QTest::newRow("string of digits") << QVariant(QStringLiteral("12"));
     QTest::newRow("strings") << QVariant(QStringList({"a", "b"}));
-    QTest::newRow("list") << QVariant(QVariantList({1, 2.0, true, "x", QVariantList({3})}));
+    QTest::newRow("list") << QVariant(QVariantList({1, 2.0, true, "x", QVariantList{3}}));
     QTest::newRow("map") << QVariant(QVariantMap({{"double", 1}, {"b", QSize(1, 2)}}));
     QTest::newRow("hash") << QVariant(QVariantHash({{"map", 1}, {"b", 2.0}}));
     QTest::newRow("bytes") << QVariant(QByteArray("\x00\xff", 2));
