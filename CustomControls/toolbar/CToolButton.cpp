@@ -9,6 +9,7 @@
 #include <QEvent>
 #include <QIcon>
 #include <QMenu>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
 #include <QStyleOptionToolButton>
@@ -155,6 +156,20 @@ QSize CToolButton::sizeHint() const
     const int content = qMax(qMax(iconSize().width(), kMinimumContentWidth), m_nSharedWidth);
     return {content + (menu() ? kSideMarginsWithMenu : kSideMargins),
             kHeightOfOneLine + (m_nSharedTextLines - 1) * fontMetrics().lineSpacing()};
+}
+
+// Who hears of the click may delete the button, also from an event loop of his own. The toolkit's tool button writes to
+// itself all the same when the click is over, into memory that is another's by then.
+void CToolButton::mouseReleaseEvent(QMouseEvent* event)
+{
+    const QPointer<CToolButton> alive(this);
+    QAbstractButton::mouseReleaseEvent(event);
+    if (alive) {
+        // Of no button it is no click: all that is left is to forget which part of the button was pressed.
+        QMouseEvent ofNoButton(event->type(), event->position(), event->globalPosition(), Qt::NoButton, Qt::NoButton,
+                               event->modifiers());
+        QToolButton::mouseReleaseEvent(&ofNoButton);
+    }
 }
 
 void CToolButton::paintEvent(QPaintEvent*)

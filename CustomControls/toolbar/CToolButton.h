@@ -64,6 +64,7 @@ Q_SIGNALS:
     void SignalBtnDisabledClick();
 
 protected:
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 public:
