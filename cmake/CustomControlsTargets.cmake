@@ -7,7 +7,8 @@ function(customcontrols_configure target)
     if(MSVC)
         target_compile_options(${target} PRIVATE /W4 /utf-8 /permissive- $<$<BOOL:${CUSTOMCONTROLS_WERROR}>:/WX>)
     else()
-        # Messages name the source file as it lies in the tree: what is built doesn't tell where, and is the same everywhere.
+        # Messages name the source file as it lies in the tree: what is built doesn't tell where that was, and is the
+        # same everywhere.
         target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic $<$<BOOL:${CUSTOMCONTROLS_WERROR}>:-Werror>
                                                  "-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/="
                                                  "-fmacro-prefix-map=${PROJECT_BINARY_DIR}/=")
