@@ -4,7 +4,9 @@
 #include <tests/support/TestMain.h>
 
 #include <QEventLoop>
+#include <QMenu>
 #include <QPointer>
+#include <QStyleOptionToolButton>
 #include <QTimer>
 
 #include <algorithm>
@@ -80,6 +82,7 @@ private Q_SLOTS:
     void deletedByItsClick_data();
     void deletedByItsClick();
     void aClickLeavesTheButtonAsItWas();
+    void theMenuPartIsForgottenWhenReleased();
 };
 
 void ToolButtonDeletionTest::aWriteAfterwardsIsSeen()
@@ -157,6 +160,28 @@ void ToolButtonDeletionTest::aClickLeavesTheButtonAsItWas()
     QTest::mouseClick(&button, Qt::LeftButton);
     QCOMPARE(clicks, 2);
     QVERIFY(!button.isChecked());
+}
+
+void ToolButtonDeletionTest::theMenuPartIsForgottenWhenReleased()
+{
+    CToolButton button(nullptr);
+    QMenu menu;
+    menu.addAction(QStringLiteral("row"));
+    connect(&menu, &QMenu::aboutToShow, &menu, [&menu] { QTimer::singleShot(0, &menu, &QMenu::close); });
+    button.setPopupMode(QToolButton::MenuButtonPopup);
+    button.setMenu(&menu);
+    button.resize(100, 60);
+    button.show();
+    QStyleOptionToolButton option;
+    button.initStyleOption(&option);
+    const QPoint menuPart =
+        button.style()->subControlRect(QStyle::CC_ToolButton, &option, QStyle::SC_ToolButtonMenu, &button).center();
+    const QPoint clickPart(5, 30);
+    QVERIFY(button.hitButton(clickPart));
+    QTest::mousePress(&button, Qt::LeftButton, {}, menuPart);
+    QVERIFY(!button.hitButton(clickPart));
+    QTest::mouseRelease(&button, Qt::LeftButton, {}, menuPart);
+    QVERIFY(button.hitButton(clickPart));
 }
 
 CUSTOMCONTROLS_TEST_MAIN(ToolButtonDeletionTest)
