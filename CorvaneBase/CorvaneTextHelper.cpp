@@ -14,24 +14,32 @@
 #include <QLocale>
 #include <QSaveFile>
 #include <QStandardPaths>
-#include <QtEndian>
 
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <limits>
-#include <new>
 #include <optional>
 
 namespace {
 
 constexpr qint64 kLargestFile = qint64(16) * 1024 * 1024;
 
-// The toolkit reads a value within a value by a call within a call: a damaged file could fill the stack so. Lists and
-// maps are JSON here, whose depth is limited, and no honest one comes otherwise.
-constexpr qsizetype kLargestNest = 4096;
-constexpr std::array<int, 6> kNestingTypes = {QMetaType::QVariant,     QMetaType::QVariantList, QMetaType::QVariantMap,
-                                              QMetaType::QVariantHash, QMetaType::QVariantPair, QMetaType::QTextFormat};
+// What the toolkit's stream reads and writes for us. No list is among them, nor what holds one: the toolkit makes room
+// for as many entries as a damaged file says there are, and reads a value within a value by a call within a call.
+// Texts, lists and maps are JSON here.
+constexpr std::array kStreamedTypes = {
+    QMetaType::Char,      QMetaType::SChar,  QMetaType::UChar,      QMetaType::Short,    QMetaType::UShort,
+    QMetaType::UInt,      QMetaType::Long,   QMetaType::ULong,      QMetaType::LongLong, QMetaType::ULongLong,
+    QMetaType::Float,     QMetaType::QChar,  QMetaType::QByteArray, QMetaType::QDate,    QMetaType::QTime,
+    QMetaType::QDateTime, QMetaType::QUrl,   QMetaType::QLocale,    QMetaType::QUuid,    QMetaType::QPoint,
+    QMetaType::QPointF,   QMetaType::QSize,  QMetaType::QSizeF,     QMetaType::QRect,    QMetaType::QRectF,
+    QMetaType::QLine,     QMetaType::QLineF, QMetaType::QColor};
+
+bool IsStreamed(int type)
+{
+    return std::find(kStreamedTypes.begin(), kStreamedTypes.end(), type) != kStreamedTypes.end();
+}
 
 // JSON has one kind of number, so what would come back as something else is wrapped in an object that names its type.
 const QString kTagDouble = QStringLiteral("double");
@@ -84,6 +92,11 @@ QJsonValue ToJson(const QVariant& value)
     case QMetaType::UnknownType:
         return QJsonValue::Null;
     default: {
+        if (!IsStreamed(value.typeId())) {
+            CDebugLog::AddLog(
+                QStringLiteral("CorvaneTextHelper: no setting can be a %1").arg(QLatin1String(value.typeName())));
+            return QJsonValue::Undefined;
+        }
         QByteArray bytes;
         QDataStream stream(&bytes, QIODevice::WriteOnly);
         stream.setVersion(QDataStream::Qt_6_4);
@@ -138,20 +151,16 @@ QVariant FromJson(const QJsonValue& json)
         return EntriesFromJson<QVariantHash>(object.value(kTagHash).toObject());
     }
     const QByteArray bytes = QByteArray::fromBase64(object.value(kTagOther).toString().toLatin1());
-    if (bytes.size() > kLargestNest) {
-        const auto type = qFromBigEndian<qint32>(bytes.constData());
-        if (std::find(kNestingTypes.begin(), kNestingTypes.end(), type) != kNestingTypes.end()) {
-            return {};
-        }
-    }
-    QVariant other;
     QDataStream stream(bytes);
     stream.setVersion(QDataStream::Qt_6_4);
-    try {
-        stream >> other;
-    } catch (const std::bad_alloc&) { // the toolkit makes room for as many entries as a damaged file says there are
+    qint32 type = QMetaType::UnknownType;
+    stream >> type;
+    if (!IsStreamed(type)) {
         return {};
     }
+    stream.device()->reset();
+    QVariant other;
+    stream >> other;
     return stream.status() == QDataStream::Ok ? other : QVariant();
 }
 

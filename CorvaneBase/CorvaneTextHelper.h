@@ -46,8 +46,9 @@ public:
      *
      * @param type  the group of the setting
      * @param key   its name in the group
-     * @param value any QVariant that QDataStream can write; it comes back with its type. An invalid one removes the
-     * setting
+     * @param value a bool, a number, a text or texts, a list, map or hash of values, bytes, a date, time, URL, locale
+     * or UUID, a point, size, rectangle, line or colour; it comes back with its type. An invalid one removes the
+     * setting. One of another type holds for this run and is not written, which the log tells
      * @param flag  reserved; the controls pass false
      */
     void SetLocalSettingCache(SettingType type, const QString& key, const QVariant& value, bool flag);

@@ -3,13 +3,20 @@
 #include <tests/support/LogCapture.h>
 #include <tests/support/TestMain.h>
 
+#include <QBitArray>
+#include <QColor>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLineF>
 #include <QLocale>
+#include <QRect>
 #include <QSize>
 #include <QTemporaryDir>
+#include <QUrl>
+#include <QUuid>
 
 #include <cmath>
 #include <memory>
@@ -43,8 +50,9 @@ private Q_SLOTS:
     void fileThatIsNoSettingsFileIsKeptAside();
     void hugeFileIsNotRead();
     void foreignEntriesAreIgnored();
-    void valuesWithinValuesFillNoStack();
-    void countBeyondAllMemoryIsNoValue();
+    void valueOfAnotherTypeHoldsForTheRunOnly();
+    void whatADamagedFileSaysIsALotIsNoValue_data();
+    void whatADamagedFileSaysIsALotIsNoValue();
     void valueHoldsForTheRunWhereItCannotBeWritten_data();
     void valueHoldsForTheRunWhereItCannotBeWritten();
     void oldFileStaysWhereTheNewOneCannotBeWritten();
@@ -185,7 +193,20 @@ void CorvaneTextHelperTest::valuesComeBackWithTheirType_data()
     QTest::newRow("map") << QVariant(QVariantMap({{"double", 1}, {"b", QSize(1, 2)}}));
     QTest::newRow("hash") << QVariant(QVariantHash({{"map", 1}, {"b", 2.0}}));
     QTest::newRow("bytes") << QVariant(QByteArray("\x00\xff", 2));
+    QTest::newRow("float") << QVariant(0.1F);
+    QTest::newRow("unsigned") << QVariant(std::numeric_limits<uint>::max());
+    QTest::newRow("letter") << QVariant(QChar(0x78C1));
+    QTest::newRow("date") << QVariant(QDate(2024, 2, 29));
+    QTest::newRow("time") << QVariant(QTime(23, 59, 59, 999));
+    QTest::newRow("moment") << QVariant(QDateTime(QDate(2024, 5, 6), QTime(7, 8, 9), Qt::UTC));
+    QTest::newRow("url") << QVariant(QUrl(QStringLiteral("http://host/a?b#c")));
+    QTest::newRow("locale") << QVariant(QLocale(QLocale::Chinese));
+    QTest::newRow("uuid") << QVariant(QUuid::createUuidV5(QUuid(), QStringLiteral("machine")));
+    QTest::newRow("point") << QVariant(QPointF(0.1, -2));
     QTest::newRow("size") << QVariant(QSize(3, 4));
+    QTest::newRow("rectangle") << QVariant(QRect(1, 2, 3, 4));
+    QTest::newRow("line") << QVariant(QLineF(0, 0.5, 1, 2));
+    QTest::newRow("colour") << QVariant(QColor(1, 2, 3, 4));
 }
 
 void CorvaneTextHelperTest::valuesComeBackWithTheirType()
@@ -284,22 +305,38 @@ void CorvaneTextHelperTest::foreignEntriesAreIgnored()
     }
 }
 
-void CorvaneTextHelperTest::valuesWithinValuesFillNoStack()
+void CorvaneTextHelperTest::valueOfAnotherTypeHoldsForTheRunOnly()
 {
-    // Lists of one list each, as the toolkit writes them.
-    const QByteArray level = QByteArray::fromHex("000000090000000001");
-    const QByteArray bytes = level.repeated(200000).toBase64();
-    Write(Path(), "{\"1\":{\"nest\":{\"variant\":\"" + bytes + "\"},\"ok\":7}}");
-    QCOMPARE(Get("nest", "default"), QVariant("default"));
-    QCOMPARE(Get("ok"), QVariant(7));
+    const QVariant bits = QVariant::fromValue(QBitArray(9, true));
+    LogCapture log;
+    Set("bits", bits);
+    Set("map", QVariantMap({{"a", 1}, {"b", bits}}));
+    QCOMPARE(Get("bits"), bits);
+    QVERIFY(log.Lines().contains(QStringLiteral("CorvaneTextHelper: no setting can be a QBitArray")));
+    Helper()->SetSettingsFile(Path());
+    QCOMPARE(Get("bits", "default"), QVariant("default"));
+    QCOMPARE(Get("map"), QVariant(QVariantMap({{"a", 1}})));
 }
 
-void CorvaneTextHelperTest::countBeyondAllMemoryIsNoValue()
+void CorvaneTextHelperTest::whatADamagedFileSaysIsALotIsNoValue_data()
 {
-    // A list that says it has the largest number of entries there is.
-    const QByteArray bytes = QByteArray::fromHex("00000009007fffffff0000000200").toBase64();
-    Write(Path(), "{\"1\":{\"list\":{\"variant\":\"" + bytes + "\"},\"ok\":7}}");
-    QCOMPARE(Get("list", "default"), QVariant("default"));
+    // Each as the toolkit would write it: the type, whether it is null, the number of entries, what is there of them.
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("list of all numbers") << QByteArray::fromHex("00000009007fffffff0000000200");
+    QTest::newRow("list that the machine could hold") << QByteArray::fromHex("000000090027ba5965");
+    QTest::newRow("strings") << QByteArray::fromHex("0000000b0027ba5965");
+    QTest::newRow("polygon") << QByteArray::fromHex("000010070027ba5965");
+    QTest::newRow("bytes") << QByteArray::fromHex("0000000c007fffffff616263");
+    QTest::newRow("bits") << QByteArray::fromHex("0000000d00de724fff");
+    QTest::newRow("lists in lists") << QByteArray::fromHex("000000090000000001").repeated(200000);
+    QTest::newRow("pairs in pairs") << QByteArray::fromHex("0000003a00").repeated(200000);
+}
+
+void CorvaneTextHelperTest::whatADamagedFileSaysIsALotIsNoValue()
+{
+    QFETCH(QByteArray, bytes);
+    Write(Path(), "{\"1\":{\"lot\":{\"variant\":\"" + bytes.toBase64() + "\"},\"ok\":7}}");
+    QCOMPARE(Get("lot", "default"), QVariant("default"));
     QCOMPARE(Get("ok"), QVariant(7));
 }
 
