@@ -1,17 +1,19 @@
 #!/usr/bin/env bash
 # Builds the fuzz targets with Clang, replays the corpus of each and then fuzzes it, as many at a time as there are cores.
 #   --seconds N   fuzz each target that long (30); 0 only replays
+#   --seed N      take the same road each time; another one at each run else
 #   TARGET...     only these; all of tests/fuzz else
 # An input that breaks a target is kept in build/fuzz/findings; what fuzzing adds to a corpus stays in build/fuzz/grown.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
 
-seconds=30 targets=()
+seconds=30 seed=0 targets=()
 while [ $# -gt 0 ]; do
     case $1 in
     --seconds) seconds=${2:?how many?}; shift ;;
-    -*) sed -n '2,5s/^# \{0,1\}//p' "$0"; exit 2 ;;
+    --seed) seed=${2:?which?}; shift ;;
+    -*) sed -n '2,6s/^# \{0,1\}//p' "$0"; exit 2 ;;
     *) targets+=("$1") ;;
     esac
     shift
@@ -48,7 +50,7 @@ fuzz() {
     line="$(find "$seeds" -type f | wc -l) inputs replayed"
     if [ "$seconds" -gt 0 ]; then
         if ! build/fuzz/fuzz/"$target" "${options[@]}" -dict="tests/fuzz/$target.dict" -max_total_time="$seconds" \
-            -print_final_stats=1 -use_value_profile=1 "$grown" "$seeds" >>"$log" 2>&1; then
+            -seed="$seed" -print_final_stats=1 -use_value_profile=1 "$grown" "$seeds" >>"$log" 2>&1; then
             echo "$line, fuzzing FAILED" >"$results/$target"
             return
         fi

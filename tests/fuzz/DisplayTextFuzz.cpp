@@ -42,6 +42,8 @@ void FuzzOne(FuzzInput& input)
         --end;
     }
     const bool ellipsisLast = end > 0 && shown.at(end - 1) == QChar(0x2026);
+    // Where letters join, as in Arabic, the toolkit has the last one joined to what is cut off, by a joiner.
+    const bool joined = ellipsisLast && end > 1 && shown.at(end - 2) == QChar(0x200d);
     qsizetype raw = 0;
     qsizetype start = 0;
     int lines = 1;
@@ -61,7 +63,7 @@ void FuzzOne(FuzzInput& input)
         }
         // Cut short: the ellipsis ends the last line that there is room for. It may have passed for one of the text's
         // own.
-        FUZZ_CHECK(ellipsisLast && i >= end - 1 && lines == most);
+        FUZZ_CHECK(ellipsisLast && i >= end - (joined ? 2 : 1) && lines == most);
         raw = text.size();
         break;
     }
