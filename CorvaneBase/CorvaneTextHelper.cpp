@@ -41,6 +41,31 @@ bool IsStreamed(int type)
     return std::find(kStreamedTypes.begin(), kStreamedTypes.end(), type) != kStreamedTypes.end();
 }
 
+QByteArray ToStream(const QVariant& value)
+{
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream.setVersion(QDataStream::Qt_6_4);
+    stream << value;
+    return bytes;
+}
+
+// Of a damaged value the toolkit makes what it can. One that we have written is written the same again.
+QVariant FromStream(const QByteArray& bytes)
+{
+    QDataStream stream(bytes);
+    stream.setVersion(QDataStream::Qt_6_4);
+    qint32 type = QMetaType::UnknownType;
+    stream >> type;
+    if (!IsStreamed(type)) {
+        return {};
+    }
+    stream.device()->reset();
+    QVariant value;
+    stream >> value;
+    return ToStream(value) == bytes ? value : QVariant();
+}
+
 // JSON has one kind of number, so what would come back as something else is wrapped in an object that names its type.
 const QString kTagDouble = QStringLiteral("double");
 const QString kTagStrings = QStringLiteral("strings");
@@ -91,18 +116,13 @@ QJsonValue ToJson(const QVariant& value)
         return QJsonObject{{kTagHash, EntriesToJson(value.toHash())}};
     case QMetaType::UnknownType:
         return QJsonValue::Null;
-    default: {
+    default:
         if (!IsStreamed(value.typeId())) {
             CDebugLog::AddLog(
                 QStringLiteral("CorvaneTextHelper: no setting can be a %1").arg(QLatin1String(value.typeName())));
             return QJsonValue::Undefined;
         }
-        QByteArray bytes;
-        QDataStream stream(&bytes, QIODevice::WriteOnly);
-        stream.setVersion(QDataStream::Qt_6_4);
-        stream << value;
-        return QJsonObject{{kTagOther, QString::fromLatin1(bytes.toBase64())}};
-    }
+        return QJsonObject{{kTagOther, QString::fromLatin1(ToStream(value).toBase64())}};
     }
 }
 
@@ -150,18 +170,7 @@ QVariant FromJson(const QJsonValue& json)
     if (object.contains(kTagHash)) {
         return EntriesFromJson<QVariantHash>(object.value(kTagHash).toObject());
     }
-    const QByteArray bytes = QByteArray::fromBase64(object.value(kTagOther).toString().toLatin1());
-    QDataStream stream(bytes);
-    stream.setVersion(QDataStream::Qt_6_4);
-    qint32 type = QMetaType::UnknownType;
-    stream >> type;
-    if (!IsStreamed(type)) {
-        return {};
-    }
-    stream.device()->reset();
-    QVariant other;
-    stream >> other;
-    return stream.status() == QDataStream::Ok ? other : QVariant();
+    return FromStream(QByteArray::fromBase64(object.value(kTagOther).toString().toLatin1()));
 }
 
 std::optional<double> FiniteNumber(const QLocale& locale, const QString& text)
