@@ -160,7 +160,7 @@ External)
     cmake --install "$work/base" >/dev/null
     configure "$source" "$work/controls" -DCORVANE_BASE=external -DCMAKE_PREFIX_PATH="$prefix" \
         -DCMAKE_INSTALL_PREFIX="$prefix" -DCUSTOMCONTROLS_BUILD_GALLERY=OFF -DCUSTOMCONTROLS_BUILD_SIMULATOR=OFF \
-        -DCUSTOMCONTROLS_BUILD_TESTS=OFF -DCUSTOMCONTROLS_BUILD_DESIGNER=OFF
+        -DCUSTOMCONTROLS_BUILD_TESTS=OFF -DCUSTOMCONTROLS_BUILD_DESIGNER=OFF -DCUSTOMCONTROLS_PRECOMPILE=ON
     cmake --install "$work/controls" >/dev/null
     configure "$source/examples/hello" "$work/hello" -DCMAKE_PREFIX_PATH="$prefix"
     greet "$work/hello/hello"
