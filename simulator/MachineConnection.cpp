@@ -59,7 +59,8 @@ void MachineConnection::Read()
     const QByteArray bytes = m_pSocket->readAll();
     m_iReceived += bytes.size();
     // What comes behind a request is taken off the socket and dropped: closing with unread bytes would tear the answer.
-    if (m_bAnswering || m_reader.Feed(bytes) == RequestReader::Incomplete) {
+    // So is one that comes sooner than the connection is closed.
+    if (m_bAnswering || m_fault.eKind == Fault::Close || m_reader.Feed(bytes) == RequestReader::Incomplete) {
         return;
     }
     m_bAnswering = true;
